@@ -1,0 +1,108 @@
+// The exported functions. Each one answers through Answer(), which turns any
+// failure into an "Error" reply so that nothing escapes across the C
+// boundary.
+#include <cstdlib>
+#include <exception>
+#include <string>
+
+#include "Codes.h"
+#include "GraphValues.h"
+#include "formula/FileSeries.h"
+#include "formula/Formula.h"
+#include "tamsic.h"
+
+namespace {
+
+using tamsic::SetReply;
+using tamsic::TextFromCodes;
+
+const char* const kNoSimulation = "Error: the simulation is not available in this build";
+
+template <class Reply>
+void Answer(TamsicVariant* result, Reply&& reply) noexcept {
+  if (result == nullptr) return;
+  try {
+    SetReply(result, reply());
+  } catch (const std::exception& failure) {
+    try {
+      SetReply(result, std::string("Error: internal failure: ") + failure.what());
+    } catch (...) {
+      SetReply(result, "Error: internal failure");
+    }
+  } catch (...) {
+    SetReply(result, "Error: internal failure");
+  }
+}
+
+std::string CheckFormula(const std::string& text) {
+  if (const auto file = tamsic::formula::FileReferenceName(text)) {
+    if (file->empty()) return "Error: file= needs the name of a file at character 6";
+    return "Polish: file=" + *file;
+  }
+  const auto checked = tamsic::formula::Check(text);
+  if (checked.error) return "Error: " + checked.error->describe();
+  return "Polish: " + checked.polish;
+}
+
+}  // namespace
+
+extern "C" {
+
+void tamsicFreeVariant(TamsicVariant* result) {
+  if (result == nullptr) return;
+  std::free(result->codes);
+  result->codes = nullptr;
+  result->count = 0;
+}
+
+void tamsicsim(TamsicVariant* result, const int16_t*, int32_t, int32_t, int32_t, const int16_t*,
+               int32_t, const int16_t*, int32_t) {
+  Answer(result, [] { return kNoSimulation; });
+}
+
+void tcheckin(TamsicVariant* result, const int16_t*, int32_t, int32_t) {
+  Answer(result, [] { return kNoSimulation; });
+}
+
+void agedist(TamsicVariant* result, int16_t) {
+  Answer(result, [] { return kNoSimulation; });
+}
+
+void detGraphValues(TamsicVariant* result, const int16_t*, int32_t, int32_t) {
+  Answer(result, [] { return kNoSimulation; });
+}
+
+void findpolyg(TamsicVariant* result, int16_t, const double*) {
+  Answer(result, [] { return kNoSimulation; });
+}
+
+void testFormula(TamsicVariant* result, const int16_t* formula, int32_t count) {
+  Answer(result, [&] { return CheckFormula(TextFromCodes(formula, count)); });
+}
+
+void formulaGraphValues(TamsicVariant* result, const int16_t* formula, int32_t count,
+                        int32_t variable, int32_t from, int32_t to, int32_t points,
+                        int32_t population, double increment) {
+  Answer(result, [&] {
+    return tamsic::GraphValues(TextFromCodes(formula, count),
+                               {variable, from, to, points, population, increment});
+  });
+}
+
+void tamsdllclose(TamsicVariant* result) {
+  Answer(result, [] { return "Message: closed"; });
+}
+
+void tamsicWindowClose(TamsicVariant* result) {
+  Answer(result, [] { return "Message: closed"; });
+}
+
+void tamsicProgress(TamsicVariant* result) {
+  Answer(result, [] { return "0;0"; });
+}
+
+void tamsicCancel(TamsicVariant* result) {
+  Answer(result, [] { return "Message: cancel requested"; });
+}
+
+}  // extern "C"

@@ -1,0 +1,82 @@
+#include "formula/FileSeries.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <fstream>
+#include <sstream>
+
+namespace tamsic::formula {
+
+namespace {
+
+std::string_view Trim(std::string_view text) {
+  const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+  while (!text.empty() && blank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && blank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+std::optional<double> ReadNumber(std::string_view text) {
+  double value = 0.0;
+  const char* last = text.data() + text.size();
+  const auto [end, error] = std::from_chars(text.data(), last, value);
+  if (error != std::errc() || end != last) return std::nullopt;
+  return value;
+}
+
+}  // namespace
+
+FileSeries::Loaded FileSeries::FromText(std::string_view text) {
+  std::vector<double> values;
+  int lineNumber = 0;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    const std::string_view line = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    ++lineNumber;
+    std::string_view rest = line;
+    while (!Trim(rest).empty()) {
+      const std::size_t cut = std::min(rest.find(';'), rest.size());
+      const std::string_view field = Trim(rest.substr(0, cut));
+      rest.remove_prefix(std::min(cut + 1, rest.size()));
+      if (field.empty()) continue;
+      const auto value = ReadNumber(field);
+      if (!value) {
+        std::string error(1, '"');
+        error.append(field).append("\" on line ").append(std::to_string(lineNumber));
+        return {std::nullopt, error + " is not a number"};
+      }
+      values.push_back(*value);
+    }
+  }
+  if (values.empty()) return {std::nullopt, "the file holds no values"};
+  return {FileSeries(std::move(values)), ""};
+}
+
+FileSeries::Loaded FileSeries::FromFile(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return {std::nullopt, "cannot read the file " + path.string()};
+  std::ostringstream content;
+  content << in.rdbuf();
+  Loaded loaded = FromText(content.str());
+  if (!loaded.series) loaded.error = path.string() + ": " + loaded.error;
+  return loaded;
+}
+
+double FileSeries::valueForYear(int year) const {
+  const auto index = static_cast<std::size_t>(std::max(year, 1) - 1);
+  return values_[std::min(index, values_.size() - 1)];
+}
+
+std::optional<std::string> FileReferenceName(std::string_view text) {
+  text = Trim(text);
+  if (text.size() < 5) return std::nullopt;
+  std::string head(text.substr(0, 5));
+  std::transform(head.begin(), head.end(), head.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  if (head != "file=") return std::nullopt;
+  return std::string(Trim(text.substr(5)));
+}
+
+}  // namespace tamsic::formula
