@@ -1,0 +1,101 @@
+// tamsic-cli: works with project files without the desktop program.
+//   tamsic-cli info FILE.tpj        what the project holds
+//   tamsic-cli resave IN.tpj OUT.tpj  load a project and save it again
+// Every failure ends with the program's message on stderr and exit code 1.
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+#include "StderrMessageBox.h"
+#include "app/EnglishMessages.h"
+#include "app/Errors.h"
+#include "files/ProjectFile.h"
+#include "files/ProjectOpen.h"
+#include "files/TextCodec.h"
+
+namespace tamsic {
+namespace {
+
+struct Session {
+  StderrMessageBox box;
+  EnglishMessages strings;
+  Messages messages{box, strings};
+};
+
+// Reading for the command line makes no backups: nothing here changes the file.
+std::optional<OpenedProject> Open(const std::string& path, Session& session) {
+  auto opened = OpenProjectFile(path, session.messages, false);
+  if (!opened && !session.box.sawProblem())
+    session.messages.show(Cp1252ToUtf8(path) + " is not a Tamsic project file", msg::kError, MsgIcon::Critical);
+  return opened;
+}
+
+void PrintInfo(const OpenedProject& opened) {
+  const ProjectDocument& project = opened.document;
+  std::cout << "Title: " << Cp1252ToUtf8(project.title) << "\n"
+            << "Version: " << opened.versionText << "\n"
+            << "Scenarios: " << project.scenarios.Count() << "\n";
+  for (std::size_t n = 1; n <= project.scenarios.Count(); ++n) {
+    const clsScenario& s = project.scenarios.Item(n);
+    std::cout << "  " << n << ". " << Cp1252ToUtf8(s.Text(F("txtSceneName")))
+              << "  populations " << Cp1252ToUtf8(s.Text(F("txtNumPop")))
+              << ", years " << Cp1252ToUtf8(s.Text(F("txtNumYear")))
+              << ", iterations " << Cp1252ToUtf8(s.Text(F("txtNumIter"))) << "\n";
+  }
+  const STScheme& scheme = project.stScheme;
+  std::cout << "ST items: " << scheme.NumItems << "\n";
+  for (int i = 0; i < scheme.NumItems && i < static_cast<int>(scheme.Items.size()); ++i) {
+    const STItem& item = scheme.Items[i];
+    std::cout << "  " << i << ". " << Cp1252ToUtf8(item.Label) << " (baseline scenario "
+              << item.ScenarioIndex << "):";
+    for (std::size_t j = 0; j < item.Vars.size(); ++j)
+      std::cout << (j ? ", " : " ") << Cp1252ToUtf8(item.Vars[j]) << " = "
+                << Cp1252ToUtf8(j < item.Vals.size() ? item.Vals[j] : std::string());
+    std::cout << "\n";
+  }
+}
+
+int Info(const std::string& path) {
+  Session session;
+  const auto opened = Open(path, session);
+  if (!opened) return 1;
+  PrintInfo(*opened);
+  return session.box.sawProblem() ? 1 : 0;
+}
+
+int Resave(const std::string& in, const std::string& out) {
+  Session session;
+  const auto opened = Open(in, session);
+  if (!opened || session.box.sawProblem()) return 1;
+  SaveProject(opened->document, out, session.messages);
+  return 0;
+}
+
+int Run(int argc, char** argv) {
+  CLI::App app{"Tamsic: population viability analysis, batch tools"};
+  app.require_subcommand(1);
+  std::string file, in, out;
+  auto* info = app.add_subcommand("info", "Show the title, scenarios and sensitivity-test items of a project");
+  info->add_option("FILE", file, "Project file (.tpj)")->required();
+  auto* resave = app.add_subcommand("resave", "Load a project and save it again under another name");
+  resave->add_option("IN", in, "Project file to read")->required();
+  resave->add_option("OUT", out, "Project file to write")->required();
+  CLI11_PARSE(app, argc, argv);
+  if (*info) return Info(file);
+  return Resave(in, out);
+}
+
+}  // namespace
+}  // namespace tamsic
+
+int main(int argc, char** argv) {
+  try {
+    return tamsic::Run(argc, argv);
+  } catch (const tamsic::TamsicError& error) {
+    if (error.number() != tamsic::kErrMissingSection) std::cerr << "Error: " << error.what() << "\n";
+    return 1;
+  } catch (const std::exception& error) {
+    std::cerr << "Error: " << error.what() << "\n";
+    return 1;
+  }
+}

@@ -1,0 +1,98 @@
+#include "files/AtomicFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <vector>
+
+#include "app/Errors.h"
+#include "files/TextCodec.h"
+
+namespace tamsic {
+
+namespace {
+
+// Closes the descriptor and removes the half-written file unless told the write succeeded.
+class TempFile {
+ public:
+  explicit TempFile(std::string pathTemplate) : path_(std::move(pathTemplate)) {
+    std::vector<char> buffer(path_.begin(), path_.end());
+    buffer.push_back('\0');
+    fd_ = ::mkstemp(buffer.data());
+    path_ = buffer.data();
+  }
+  ~TempFile() {
+    if (fd_ >= 0) ::close(fd_);
+    if (!kept_) ::unlink(path_.c_str());
+  }
+  TempFile(const TempFile&) = delete;
+  TempFile& operator=(const TempFile&) = delete;
+
+  int fd() const { return fd_; }
+  const std::string& path() const { return path_; }
+  bool close() {
+    const int fd = fd_;
+    fd_ = -1;
+    return ::close(fd) == 0;
+  }
+  void keep() { kept_ = true; }
+
+ private:
+  std::string path_;
+  int fd_ = -1;
+  bool kept_ = false;
+};
+
+[[noreturn]] void Fail(const std::string& what, const std::string& path) {
+  throw FileError(what + " " + Cp1252ToUtf8(path) + ": " + LastSystemError());
+}
+
+bool WriteAll(int fd, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(fd, bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+}  // namespace
+
+bool FileExists(const std::string& path) {
+  struct stat info {};
+  return ::stat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode);
+}
+
+bool FolderExists(const std::string& path) {
+  struct stat info {};
+  return ::stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+std::string LastSystemError() { return std::strerror(errno); }
+
+void WriteFileReplacing(const std::string& path, std::string_view bytes) {
+  TempFile temp(path + ".~XXXXXX");
+  if (temp.fd() < 0) Fail("Cannot write", path);
+  struct stat existing {};
+  if (::stat(path.c_str(), &existing) == 0) ::fchmod(temp.fd(), existing.st_mode & 07777);
+  else ::fchmod(temp.fd(), 0666 & ~[] { const mode_t m = ::umask(0); ::umask(m); return m; }());
+  if (!WriteAll(temp.fd(), bytes) || ::fsync(temp.fd()) != 0 || !temp.close())
+    Fail("Cannot write", path);
+  if (::rename(temp.path().c_str(), path.c_str()) != 0) Fail("Cannot replace", path);
+  temp.keep();
+}
+
+void CopyFileOver(const std::string& from, const std::string& to) {
+  std::error_code error;
+  std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, error);
+  if (error)
+    throw FileError("Cannot copy " + Cp1252ToUtf8(from) + " to " + Cp1252ToUtf8(to) + ": " +
+                    error.message());
+}
+
+}  // namespace tamsic

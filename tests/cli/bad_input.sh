@@ -1,0 +1,38 @@
+#!/bin/sh
+# Bad input to tamsic-cli ends with the program's message on stderr and a
+# non-zero exit code, never with a crash.
+set -u
+cli="$1"
+examples="$2"
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failures=0
+
+expect_failure() {
+  description="$1"; message="$2"; shift 2
+  "$@" >"$work/out" 2>"$work/err"
+  code=$?
+  if [ "$code" -ne 1 ] || ! grep -qF -- "$message" "$work/err"; then
+    echo "FAIL: $description (exit $code)"; cat "$work/err"; failures=$((failures + 1))
+  fi
+}
+
+expect_failure "missing file" "The project does not exist" "$cli" info "$work/none.tpj"
+printf '[General Project Information]\r\n' > "$work/plain.tpj"
+expect_failure "no signature" "is not a Tamsic project file" "$cli" info "$work/plain.tpj"
+sed '/^\[2 Mortality\]/,$d' "$examples/Koalas.tpj" > "$work/cut.tpj"
+expect_failure "missing section" "Unable to find section 2 Mortality" "$cli" info "$work/cut.tpj"
+sed 's/^MortMales={Empty;/MortMales={/' "$examples/Koalas.tpj" > "$work/ragged.tpj"
+expect_failure "ragged grid" "There is a problem with the data" "$cli" resave "$work/ragged.tpj" "$work/out.tpj"
+[ ! -e "$work/out.tpj" ] || { echo "FAIL: a damaged project was saved"; failures=$((failures + 1)); }
+expect_failure "unwritable target" "Cannot write" "$cli" resave "$examples/Koalas.tpj" "$work/no/such/folder.tpj"
+
+"$cli" info "$examples/Koalas.tpj" > "$work/info" || { echo "FAIL: info on the example"; failures=$((failures + 1)); }
+grep -q "ST items: 3" "$work/info" || { echo "FAIL: info lists the ST items"; failures=$((failures + 1)); }
+"$cli" resave "$examples/Koalas.tpj" "$work/a.tpj" && "$cli" resave "$work/a.tpj" "$work/b.tpj" &&
+  sed 's/^ProjectPath=.*//;s/^ReportLocation=.*//' "$work/a.tpj" > "$work/a" &&
+  sed 's/^ProjectPath=.*//;s/^ReportLocation=.*//' "$work/b.tpj" > "$work/b" &&
+  cmp -s "$work/a" "$work/b" || { echo "FAIL: resave is not stable"; failures=$((failures + 1)); }
+
+[ "$failures" -eq 0 ] && echo "cli bad input: all passed"
+exit "$failures"

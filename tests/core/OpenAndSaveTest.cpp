@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "ProjectSamples.h"
+#include "app/Errors.h"
+#include "files/ProjectFile.h"
+#include "files/ProjectOpen.h"
+#include "files/ProjectSignature.h"
+#include "support/RecordingMessageBox.h"
+
+namespace tamsic {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string ReadAll(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << in.rdbuf();
+  return bytes.str();
+}
+
+class OpenAndSaveTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    dir = fs::temp_directory_path() / ("tamsic-open-" + std::to_string(::getpid()) + "-" +
+                                       ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    fs::remove_all(dir);
+    fs::create_directories(dir);
+    path = (dir / "Trout.tpj").string();
+  }
+  void TearDown() override { fs::remove_all(dir); }
+
+  fs::path dir;
+  std::string path;
+  test::MessageRecorder recorder;
+};
+
+TEST(ProjectSignature, RecognisesTheSecondWord) {
+  EXPECT_EQ(SignatureVersion(std::string(kSignatureLine)), "9.99");
+  EXPECT_EQ(SignatureVersion("# TPSIG9.5     anything at all"), "9.5 ");
+  EXPECT_EQ(SignatureVersion("xx TPSIGNATURE"), "GNAT");
+  EXPECT_EQ(SignatureVersion("#TPSIG9.99"), std::nullopt) << "the signature must be the second word";
+  EXPECT_EQ(SignatureVersion("# tpsig9.99"), std::nullopt);
+  EXPECT_EQ(SignatureVersion(""), std::nullopt);
+}
+
+TEST_F(OpenAndSaveTest, MissingFileOrSignature) {
+  EXPECT_FALSE(IsTamsicProject(path, recorder.messages));
+  ASSERT_EQ(recorder.box.shown.size(), 1u);
+  EXPECT_EQ(recorder.box.shown[0].text, "The project does not exist");
+  EXPECT_EQ(recorder.box.shown[0].caption, "Warning!");
+
+  std::ofstream(path) << "[General Project Information]\r\n";
+  EXPECT_FALSE(OpenProjectFile(path, recorder.messages, true));
+  EXPECT_FALSE(fs::exists(path + ".bak")) << "a file that is no project gets no backup";
+}
+
+TEST_F(OpenAndSaveTest, FourOpeningsKeepThreeBackups) {
+  ProjectDocument project = test::FilledProject(1);
+  std::vector<std::string> versions;
+  for (int opening = 1; opening <= 4; ++opening) {
+    project.title = "Version " + std::to_string(opening);
+    SaveProject(project, path, recorder.messages);
+    versions.push_back(ReadAll(path));
+    const auto opened = OpenProjectFile(path, recorder.messages, true);
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(opened->document.title, project.title);
+    EXPECT_EQ(opened->versionText, "9.99");
+  }
+  EXPECT_EQ(ReadAll(path + ".bak"), versions[3]);
+  EXPECT_EQ(ReadAll(path + ".bk2"), versions[2]);
+  EXPECT_EQ(ReadAll(path + ".bk3"), versions[1]);
+  EXPECT_EQ(std::distance(fs::directory_iterator(dir), fs::directory_iterator()), 4);
+  EXPECT_TRUE(recorder.box.shown.empty());
+}
+
+TEST_F(OpenAndSaveTest, FailedSaveLeavesThePreviousFileIntact) {
+  SaveProject(test::FilledProject(1), path, recorder.messages);
+  const std::string before = ReadAll(path);
+  fs::permissions(path, fs::perms::owner_read | fs::perms::group_read);
+
+  // A disk that fills up: writes beyond a few bytes fail.
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit old{};
+  ::getrlimit(RLIMIT_FSIZE, &old);
+  rlimit small = old;
+  small.rlim_cur = 100;
+  ::setrlimit(RLIMIT_FSIZE, &small);
+  bool failed = false;
+  try {
+    SaveProject(test::FilledProject(2), path, recorder.messages);
+  } catch (const FileError& error) {
+    failed = true;
+    EXPECT_NE(std::string(error.what()).find("Trout.tpj"), std::string::npos) << error.what();
+  }
+  ::setrlimit(RLIMIT_FSIZE, &old);
+  EXPECT_TRUE(failed);
+  EXPECT_EQ(ReadAll(path), before);
+  EXPECT_EQ(std::distance(fs::directory_iterator(dir), fs::directory_iterator()), 1)
+      << "no half-written file is left behind";
+
+  SaveProject(test::FilledProject(2), path, recorder.messages);
+  EXPECT_EQ(fs::status(path).permissions() & fs::perms::all, fs::perms::owner_read | fs::perms::group_read)
+      << "a replaced file keeps its permissions";
+  EXPECT_THROW(SaveProject(test::FilledProject(1), (dir / "no" / "such.tpj").string(), recorder.messages),
+               FileError);
+}
+
+}  // namespace
+}  // namespace tamsic
