@@ -1,0 +1,36 @@
+#pragma once
+// The run call: one synchronous call of the engine's tamsicsim with the saved
+// copy of the project, the chosen scenarios and the options. A reply that
+// begins with "Message" is a normal end and the copy is deleted; any other
+// reply is handed back with the copy left in place for a look. A failure of
+// the call itself (no library, no export) is shown as "Unable to run
+// simulation" with its cause, and nothing is returned.
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "app/Messages.h"
+#include "engine/BusyCursor.h"
+#include "engine/Engine.h"
+
+namespace tamsic::basSimulation {
+
+struct RunRequest {
+  std::filesystem::path workFile;
+  std::string scenarioList;  // "A, B, " as the run dialog builds it
+  std::string flags;         // the special-options string
+  std::string runMode;       // "", "+" (resume) or "META" (stepwise)
+};
+
+// Drops every trailing "," and " ".
+std::string TrimScenarioList(std::string list);
+
+// The flags, ";" and the mode; the mode alone when the flags are blank; the
+// flags alone when there is no mode.
+std::string OptionsString(const std::string& flags, const std::string& runMode);
+
+// The engine's reply, or nothing when the call failed (the user was told).
+std::optional<std::string> Run(Engine& engine, IBusyCursor& cursor, Messages& messages,
+                               const RunRequest& request);
+
+}  // namespace tamsic::basSimulation

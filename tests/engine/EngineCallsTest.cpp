@@ -1,0 +1,140 @@
+// Every export called through the real library, loaded as the program loads it.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "engine/Engine.h"
+#include "engine/EngineLibrary.h"
+
+namespace tamsic {
+namespace {
+
+std::vector<double> Values(const std::string& reply) {
+  std::vector<double> values;
+  std::size_t start = 0;
+  while (start <= reply.size()) {
+    const std::size_t end = std::min(reply.find(';', start), reply.size());
+    values.push_back(std::stod(reply.substr(start, end - start)));
+    start = end + 1;
+  }
+  return values;
+}
+
+TEST(EngineCalls, FormulaTestAnswersPolishOrError) {
+  LibraryEngine engine;
+  EXPECT_EQ(engine.testFormula("=(50-((50-20)*((N/K)^2)))*(N/(5+N))"),
+            "Polish: * - 50 * - 50 20 ^ / N K 2 / N + 5 N");
+  EXPECT_EQ(engine.testFormula("n/k"), "Polish: / N K");
+  EXPECT_EQ(engine.testFormula("file=rates.txt"), "Polish: file=rates.txt");
+  EXPECT_EQ(engine.testFormula("=MIN(N,K)"),
+            "Error: a comma cannot separate arguments, use ';' at character 7");
+  // A Windows-1252 byte above 127 goes in and comes back in the reply.
+  EXPECT_EQ(engine.testFormula("=N+\xE9t\xE9"), "Error: unexpected character '\xE9' at character 4");
+}
+
+TEST(EngineCalls, EmptyTexts) {
+  LibraryEngine engine;
+  EXPECT_EQ(engine.testFormula(""), "Error: the function is empty at character 1");
+  // The bare array of one code 0, as the program sends an empty text.
+  const EngineExports& exports = EngineLibrary::get().exports;
+  const std::int16_t empty[] = {0};
+  TamsicVariant reply{};
+  exports.testFormula(&reply, empty, 1);
+  ASSERT_GT(reply.count, 0);
+  EXPECT_EQ(reply.codes[0], 'E');
+  exports.tamsicFreeVariant(&reply);
+  EXPECT_EQ(reply.codes, nullptr);
+  EXPECT_EQ(reply.count, 0);
+  // No arguments at all must not crash the library either.
+  exports.testFormula(&reply, nullptr, 0);
+  exports.tamsicFreeVariant(&reply);
+  exports.testFormula(nullptr, empty, 1);
+}
+
+TEST(EngineCalls, LongTexts) {
+  LibraryEngine engine;
+  const std::string padded = "=N" + std::string(100000, ' ') + "+1";
+  EXPECT_EQ(engine.testFormula(padded), "Polish: + N 1");
+
+  std::string sum = "=N";
+  for (int i = 0; i < 999; ++i) sum += "+N";
+  const std::string polish = engine.testFormula(sum);
+  EXPECT_EQ(polish.size(), std::string("Polish: ").size() + 999 * 2 + 1000 * 2 - 1);
+  EXPECT_EQ(engine.testFormula(sum + "+N"),
+            "Error: the function is too long (more than 1000 operations in one chain) at "
+            "character 2001");
+
+  const std::string many = engine.formulaGraphValues("=N*2", {11, 0, 9999, 0, 1, 1.0});
+  const auto values = Values(many);
+  ASSERT_EQ(values.size(), 10000u);
+  EXPECT_EQ(values.back(), 19998);
+}
+
+TEST(EngineCalls, GraphValuesWithTheDefaults) {
+  LibraryEngine engine;
+  const auto density =
+      Values(engine.formulaGraphValues("=(50-((50-20)*((N/K)^2)))*(N/(5+N))", {11, 0, 100, 0, 0, 50}));
+  ASSERT_EQ(density.size(), 3u);
+  EXPECT_EQ(density[0], 0);
+  EXPECT_NEAR(density[1], 42.5 * 50 / 55, 1e-12);
+  EXPECT_NEAR(density[2], 20.0 * 100 / 105, 1e-12);
+
+  // K on the axis (N stays 100), then the other defaults: A = Y = 1, P = population.
+  EXPECT_EQ(engine.formulaGraphValues("=N/K", {9, 50, 200, 0, 0, 50}), "2;1;0.6666666666666666;0.5");
+  EXPECT_EQ(engine.formulaGraphValues("=A+Y+P+G+GS1", {1, 5, 5, 0, 3, 1}), "9");
+  EXPECT_EQ(engine.formulaGraphValues("=A+Y+P", {3, 0, 0, 0, 3, 1}), "5");
+  EXPECT_EQ(engine.formulaGraphValues("=FF(1)+FF(2)+KIN(1;2)", {24, 1, 3, 0, 0, 1}), "2;4;6");
+  EXPECT_EQ(engine.formulaGraphValues("=KIN(O;MATE)*GS10", {84, 2, 2, 0, 0, 1}), "0");
+  EXPECT_EQ(engine.formulaGraphValues("=GS10", {96, 0, 1, 0, 0, 0.5}), "0;0.5;1");
+  // A step that does not divide the range exactly still reaches its end.
+  EXPECT_EQ(Values(engine.formulaGraphValues("=Y", {21, 0, 1, 0, 0, 0.1})).size(), 11u);
+  EXPECT_EQ(engine.formulaGraphValues("=Y", {21, 0, 100, 3, 0, 1}), "0;1;2");
+
+  const std::string random = engine.formulaGraphValues("=RAND+NRAND+SRAND(Y)", {21, 0, 20, 0, 0, 1});
+  EXPECT_EQ(engine.formulaGraphValues("=RAND+NRAND+SRAND(Y)", {21, 0, 20, 0, 0, 1}), random);
+}
+
+TEST(EngineCalls, GraphValuesRefuseWhatCannotBeDrawn) {
+  LibraryEngine engine;
+  EXPECT_EQ(engine.formulaGraphValues("=N/0", {11, 0, 2, 0, 0, 1}),
+            "Error: the function has no finite value at N = 0");
+  EXPECT_EQ(engine.formulaGraphValues("=E", {4, 0, 2, 0, 0, 1}),
+            "Error: E is a constant and cannot be graphed against");
+  EXPECT_EQ(engine.formulaGraphValues("=N", {97, 0, 2, 0, 0, 1}),
+            "Error: there is no variable number 97");
+  EXPECT_EQ(engine.formulaGraphValues("=N", {11, 0, 2, 0, 0, 0}),
+            "Error: the increment must be a number greater than 0");
+  EXPECT_EQ(engine.formulaGraphValues("=N", {11, 0, 2, 0, 0, NAN}),
+            "Error: the increment must be a number greater than 0");
+  EXPECT_EQ(engine.formulaGraphValues("=N", {11, 5, 2, 0, 0, 1}),
+            "Error: the range starts after it ends");
+  EXPECT_EQ(engine.formulaGraphValues("=N", {11, 0, 100000, 0, 0, 1}),
+            "Error: the range holds more than 10000 points");
+  EXPECT_EQ(engine.formulaGraphValues("=N+", {11, 0, 1, 0, 0, 1}),
+            "Error: expected a number, a name or '(' but found the end of the function at "
+            "character 4");
+}
+
+TEST(EngineCalls, SimulationCallsSayTheyAreNotAvailable) {
+  LibraryEngine engine;
+  const std::string notYet = "Error: the simulation is not available in this build";
+  EXPECT_EQ(engine.tamsicsim("/tmp/p.tpj", "{A}", ""), notYet);
+  EXPECT_EQ(engine.tamsicsim("", "", ""), notYet);
+  EXPECT_EQ(engine.tcheckin("/tmp/p.tpj {1}", 0), notYet);
+  EXPECT_EQ(engine.agedist(100), notYet);
+  EXPECT_EQ(engine.detGraphValues("", 0), notYet);
+  EXPECT_EQ(engine.findpolyg(2, {50, 40, 0, 10}), notYet);
+}
+
+TEST(EngineCalls, ProgressCancelAndClose) {
+  LibraryEngine engine;
+  EXPECT_EQ(engine.progress(), "0;0");
+  EXPECT_TRUE(engine.cancel());
+  engine.close();
+  EXPECT_EQ(engine.testFormula("=1"), "Polish: 1");
+}
+
+}  // namespace
+}  // namespace tamsic

@@ -1,0 +1,45 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "engine/WorkFile.h"
+
+namespace tamsic {
+namespace {
+
+class WorkFileFolder : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    application = std::filesystem::temp_directory_path() /
+                  ("tamsic-workfile-" +
+                   std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    std::filesystem::remove_all(application);
+    std::filesystem::create_directories(application);
+  }
+  void TearDown() override { std::filesystem::remove_all(application); }
+  std::filesystem::path application;
+};
+
+TEST_F(WorkFileFolder, FreshFilesInTheApplicationsTempFolder) {
+  const auto first = CreateWorkFile(application);
+  const auto second = CreateWorkFile(application);
+  EXPECT_EQ(first.parent_path(), application / "Temp");
+  EXPECT_NE(first, second);
+  EXPECT_TRUE(std::filesystem::is_regular_file(first));
+  EXPECT_EQ(std::filesystem::file_size(second), 0u);
+}
+
+// A folder that cannot be made (here: its parent is a file) sends the work
+// file to the user's own temporary folder.
+TEST_F(WorkFileFolder, UnwritableApplicationFolderFallsBackToTheUsersFolder) {
+  std::ofstream(application / "plain-file") << "x";
+  const auto file = CreateWorkFile(application / "plain-file");
+  EXPECT_EQ(file.parent_path(), UserTempFolder());
+  EXPECT_TRUE(std::filesystem::is_regular_file(file));
+  const auto permissions = std::filesystem::status(UserTempFolder()).permissions();
+  EXPECT_EQ(permissions & std::filesystem::perms::all, std::filesystem::perms::owner_all);
+  std::filesystem::remove(file);
+}
+
+}  // namespace
+}  // namespace tamsic
