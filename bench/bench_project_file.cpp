@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <stdexcept>
 
 #include "app/EnglishMessages.h"
 #include "files/ProjectFile.h"
@@ -48,15 +49,22 @@ struct Fixture {
     path = (std::filesystem::temp_directory_path() / "tamsic-bench.tpj").string();
     sparsePath = (std::filesystem::temp_directory_path() / "tamsic-bench-sparse.tpj").string();
     SaveProject(project, path, messages);
-    // The same file with every second scalar key renamed, as a file from
+    // The same file with every second scalar key of the scenarios renamed, as a file from
     // another version might have them: look-ups of keys that are not there
     // must not make the load quadratic.
     std::ifstream in(path, std::ios::binary);
     std::ostringstream sparse;
     std::string line;
-    for (std::size_t i = 0; std::getline(in, line); ++i)
-      sparse << (line.find("=\"") != std::string::npos && i % 2 == 0 ? "Old" : "") << line << '\n';
+    bool inScenarios = false;
+    for (std::size_t i = 0; std::getline(in, line); ++i) {
+      inScenarios = inScenarios || line.rfind("[1 ", 0) == 0;
+      const bool rename = inScenarios && i % 2 == 0 && line.find("=\"") != std::string::npos;
+      sparse << (rename ? "Old" : "") << line << '\n';
+    }
     std::ofstream(sparsePath, std::ios::binary) << sparse.str();
+    for (const std::string& file : {path, sparsePath})
+      if (LoadProject(file, kFileVersion, messages).scenarios.Count() != kScenarios)
+        throw std::runtime_error(file + " did not load whole");
   }
   ~Fixture() {
     std::filesystem::remove(path);
