@@ -83,6 +83,17 @@ void ReadGeneral(clsSaveFile& file, ProjectDocument& project, std::size_t& scene
 
 }  // namespace
 
+ProjectHeader GetTamsicHeader(const std::string& path, Messages& messages) {
+  clsSaveFile file(messages);
+  if (!file.OpenFile(path, clsSaveFile::ModeRead)) throw FileError("The project does not exist");
+  file.ReadFile();
+  ProjectHeader header;
+  header.title = file.GetEntryCache("ProjectTitle", kGeneral, true);
+  header.notes = file.GetEntryCache("ProjectNotes", kGeneral, true);
+  header.users = clsSaveFile::StringToListbox(file.GetEntryCache("Users", kGeneral));
+  return header;
+}
+
 std::string DefaultReportLocation(const std::string& projectPath) {
   const std::filesystem::path path = std::filesystem::absolute(projectPath);
   return (path.parent_path() / (path.stem().string() + "_report.rtf")).string();

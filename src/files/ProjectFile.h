@@ -6,6 +6,7 @@
 // reader's cursor only moves forward.
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/Messages.h"
 #include "files/clsSaveFile.h"
@@ -38,6 +39,16 @@ ProjectDocument LoadProject(const std::string& path, std::string_view versionTex
 // The same on a reader already opened (a file or text in memory).
 ProjectDocument ReadProject(clsSaveFile& file, std::string_view versionText, Messages& messages);
 clsScenario LoadScenario(clsSaveFile& file, std::size_t number);
+
+// What the welcome dialog shows of a project without loading it.
+struct ProjectHeader {
+  std::string title;
+  std::string notes;
+  std::vector<std::string> users;
+};
+// Throws FileError when the file cannot be read, TamsicError when it has no
+// general section (after the reader's message).
+ProjectHeader GetTamsicHeader(const std::string& path, Messages& messages);
 
 // Where the report lives when the project file does not say otherwise:
 // beside the project file, named after it.

@@ -116,6 +116,14 @@ TEST_F(ProjectFileTest, TextsThatTheFormatChanges) {
       << "a report that is gone falls back to the default place";
 }
 
+TEST_F(ProjectFileTest, HeaderWithoutLoading) {
+  SaveProject(test::FilledProject(2), Path("p.tpj"), recorder.messages);
+  const ProjectHeader header = GetTamsicHeader(Path("p.tpj"), recorder.messages);
+  EXPECT_EQ(header.title, "Mountain gorilla");
+  EXPECT_EQ(header.users, (std::vector<std::string>{"Ana Souza", "Jan Berg"}));
+  EXPECT_THROW(GetTamsicHeader(Path("none.tpj"), recorder.messages), FileError);
+}
+
 TEST_F(ProjectFileTest, ZeroScenarios) {
   ProjectDocument project;
   project.title = "Empty";

@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include "model/GridLayouts.h"
+
+namespace tamsic {
+namespace {
+
+LayoutCounts ThreePopulations() {
+  LayoutCounts counts;
+  counts.populations = {"North", "South", "East"};
+  counts.popStateVars = 3;
+  counts.catastrophes = 2;
+  counts.ageReproF = 2;
+  counts.ageReproM = 3;
+  counts.maxAge = 12;
+  counts.maxLitters = 2;
+  counts.maxProgeny = 4;
+  return counts;
+}
+
+TEST(GridLayouts, ShapesFollowTheCounts) {
+  const LayoutCounts counts = ThreePopulations();
+  const Grid labels = LayoutGrid(F("gridPopLabels"), counts);
+  EXPECT_EQ(labels.rows(), 4u);
+  EXPECT_EQ(labels.cols(), 5u);
+  EXPECT_EQ(labels.at(0, 2), "PS1");
+  EXPECT_EQ(labels.at(0, 4), "PS3");
+
+  const Grid none = LayoutGrid(F("gridGlobalVars"), counts);
+  EXPECT_EQ(none.cols(), 2u) << "no global variables still leaves two columns";
+  EXPECT_EQ(LayoutGrid(F("gridIndividualStateParams"), counts).rows(), 5u);
+
+  const Grid females = LayoutGrid(F("gridMortFemales"), counts);
+  EXPECT_EQ(females.cols(), 2u * (2 + 1) + 1);
+  EXPECT_EQ(females.at(0, 1), "Mortality From Age 0 to 1");
+  EXPECT_EQ(females.at(0, 4), "SD in 1 to 2 Mortality Due to EV");
+  EXPECT_EQ(females.at(0, 5), "Annual Mortality After Age 2");
+  EXPECT_EQ(females.at(2, 0), "South");
+  EXPECT_EQ(LayoutGrid(F("gridMortMales"), counts).cols(), 2u * (3 + 1) + 1);
+
+  EXPECT_EQ(LayoutGrid(F("gridDispRates"), counts).cols(), 4u);
+  EXPECT_EQ(LayoutGrid(F("gridDispRates"), counts).at(0, 3), "East");
+  EXPECT_EQ(LayoutGrid(F("gridCatastrophes1"), counts).cols(), 5u);
+  const Grid catastropheLabels = LayoutGrid(F("gridCatastropheLabels"), counts);
+  EXPECT_EQ(catastropheLabels.rows(), 2u) << "one row per catastrophe, no heading";
+  EXPECT_EQ(LayoutGrid(F("gridRepRates3"), counts).rows(), 6u) << "0..4 offspring";
+  EXPECT_EQ(LayoutGrid(F("gridRepRates4"), counts).rows(), 3u) << "1..2 broods";
+  EXPECT_EQ(LayoutGrid(F("gridInitPopMale"), counts).cols(), 13u);
+  const Grid harvestM = LayoutGrid(F("gridHarvestM"), counts);
+  EXPECT_EQ(harvestM.cols(), 4u);
+  EXPECT_EQ(harvestM.at(0, 3), "Adults");
+  EXPECT_EQ(LayoutGrid(F("gridHarvest"), counts).rows(), 6u);
+  EXPECT_THROW(LayoutGrid(F("txtNumPop"), counts), std::logic_error);
+}
+
+TEST(GridLayouts, RelayoutKeepsValuesThatStillFit) {
+  LayoutCounts counts = ThreePopulations();
+  Grid mort = LayoutGrid(F("gridMortFemales"), counts);
+  mort.at(1, 1) = "25";
+  mort.at(3, 6) = "3";
+  counts.populations.pop_back();
+  counts.ageReproF = 3;
+  const Grid resized = Relayout(mort, F("gridMortFemales"), counts);
+  EXPECT_EQ(resized.rows(), 3u);
+  EXPECT_EQ(resized.cols(), 9u);
+  EXPECT_EQ(resized.at(1, 1), "25");
+  EXPECT_EQ(resized.at(0, 7), "Annual Mortality After Age 3") << "headings are rewritten";
+
+  Grid labels = LayoutGrid(F("gridCatastropheLabels"), counts);
+  labels.at(0, 1) = "Fire";
+  counts.catastrophes = 3;
+  EXPECT_EQ(Relayout(labels, F("gridCatastropheLabels"), counts).at(0, 1), "Fire");
+}
+
+}  // namespace
+}  // namespace tamsic
