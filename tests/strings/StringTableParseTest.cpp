@@ -1,0 +1,103 @@
+// The loader: identifiers, languages, escapes, and errors that name the line.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "app/Errors.h"
+#include "app/StringTable.h"
+
+namespace tamsic {
+namespace {
+
+const char kSample[] =
+    "# two messages in four languages\n"
+    "\n"
+    "19110\tUnable to run simulation\n"
+    "9110\tNão foi possível executar a simulação\n"
+    "29110\tNo se pudo ejecutar la simulación\n"
+    "39110\tSimulation konnte nicht ausgeführt werden\n"
+    "10608\tMortality From Age\\s\n"
+    "10609\t\\sto\\s\n"
+    "10700\tfirst line\\nsecond line with \\\\ backslash\n";
+
+std::string FailureOf(const std::string& contents) {
+  try {
+    StringTable::fromText(contents, "sample.txt");
+  } catch (const FileError& error) {
+    return error.what();
+  }
+  return "no error";
+}
+
+TEST(StringTableLookup, EnglishIsTheDefaultLanguage) {
+  const auto table = StringTable::fromText(kSample, "sample.txt");
+  EXPECT_EQ(table.language(), Language::English);
+  EXPECT_EQ(table.text(9110), "Unable to run simulation");
+}
+
+TEST(StringTableLookup, TheLanguageSelectsTheBlockOfTenThousand) {
+  auto table = StringTable::fromText(kSample, "sample.txt");
+  table.setLanguage(Language::German);
+  EXPECT_EQ(table.text(9110), "Simulation konnte nicht ausgeführt werden");
+  table.setLanguage(Language::Portuguese);
+  EXPECT_EQ(table.text(9110), "Não foi possível executar a simulação");
+  table.setLanguage(Language::Spanish);
+  EXPECT_EQ(table.text(9110), "No se pudo ejecutar la simulación");
+}
+
+TEST(StringTableLookup, MissingNumbersGiveAnEmptyText) {
+  auto table = StringTable::fromText(kSample, "sample.txt");
+  EXPECT_EQ(table.text(9126), "");
+  EXPECT_EQ(table.text(19110), "") << "callers pass message numbers, never identifiers";
+  EXPECT_EQ(table.text(-1), "");
+  table.setLanguage(Language::German);
+  EXPECT_EQ(table.text(608), "") << "no fallback to English";
+}
+
+TEST(StringTableLookup, EscapesKeepBlanksBreaksAndBackslashes) {
+  const auto table = StringTable::fromText(kSample, "sample.txt");
+  EXPECT_EQ(table.text(608) + "2" + table.text(609) + "3", "Mortality From Age 2 to 3");
+  EXPECT_EQ(table.text(700), "first line\nsecond line with \\ backslash");
+}
+
+TEST(StringTableLookup, NumbersListsOneLanguage) {
+  const auto table = StringTable::fromText(kSample, "sample.txt");
+  EXPECT_EQ(table.numbers(Language::English), (std::set<int>{608, 609, 700, 9110}));
+  EXPECT_EQ(table.numbers(Language::German), (std::set<int>{9110}));
+}
+
+TEST(StringTableLookup, AcceptsWindowsLineEndsAndAByteOrderMark) {
+  const auto table = StringTable::fromText("\xEF\xBB\xBF# c\r\n10001\tyears\r\n", "bom.txt");
+  EXPECT_EQ(table.text(1), "years");
+}
+
+TEST(StringTableErrors, NameTheFileAndTheLine) {
+  EXPECT_EQ(FailureOf("# ok\n10001\tfine\n10002 no tab here\n"),
+            "sample.txt, line 3: no tab between identifier and text");
+  EXPECT_EQ(FailureOf("10001\tone\n\n10001\tagain\n"),
+            "sample.txt, line 3: identifier 10001 appears twice");
+  EXPECT_EQ(FailureOf("65536\ttoo high\n"), "sample.txt, line 1: identifier 65536 is above 65535");
+  EXPECT_EQ(FailureOf("x12\ttext\n"),
+            "sample.txt, line 1: expected an identifier (0 to 65535) and a tab, found \"x12\"");
+  EXPECT_EQ(FailureOf("-5\ttext\n"),
+            "sample.txt, line 1: expected an identifier (0 to 65535) and a tab, found \"-5\"");
+}
+
+TEST(StringTableErrors, RejectTextsAnEditorCouldSilentlyChange) {
+  EXPECT_EQ(FailureOf("10001\tends in a blank \n"),
+            "sample.txt, line 1: blank at the end of the line (write a trailing blank as \\s)");
+  EXPECT_EQ(FailureOf("10001\tbad \\q escape\n"), "sample.txt, line 1: unknown escape \\q");
+  EXPECT_EQ(FailureOf("10001\tdangling \\\n"),
+            "sample.txt, line 1: backslash at the end of the text");
+}
+
+TEST(StringTableErrors, AMissingFileIsAFileError) {
+  EXPECT_THROW(StringTable::fromFile("/nonexistent/strings.txt"), FileError);
+}
+
+TEST(StringTableErrors, TheHighestIdentifierIsAccepted) {
+  EXPECT_EQ(FailureOf("65535\tlast\n"), "no error");
+}
+
+}  // namespace
+}  // namespace tamsic
