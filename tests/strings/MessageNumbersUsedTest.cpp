@@ -47,8 +47,10 @@ std::map<int, std::string> UsedNumbers(const std::map<std::string, int>& named) 
   const std::regex literalCaption(R"(\bshow\([^;]*?,\s*(\d{1,4})\s*,\s*MsgIcon::)");
   std::map<int, std::string> used;
   for (const auto& value : named) used[value.second] = "src/app/Messages.h";
-  for (const char* root : {"src", "cli"}) {
-    for (const auto& entry : fs::recursive_directory_iterator(fs::path(TAMSIC_SOURCE_DIR) / root)) {
+  for (const char* root : {"src", "cli", "ui"}) {
+    const fs::path top = fs::path(TAMSIC_SOURCE_DIR) / root;
+    if (!fs::exists(top)) continue;
+    for (const auto& entry : fs::recursive_directory_iterator(top)) {
       const auto extension = entry.path().extension();
       if (extension != ".cpp" && extension != ".h") continue;
       const std::string source = ReadAll(entry.path());
