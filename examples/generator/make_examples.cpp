@@ -54,10 +54,10 @@ ProjectDocument Gorillas() {
   s.cell(F("gridCatastropheLabels"), 0, 1, "Respiratory disease");
   s.row(F("gridCatastrophes1"), 1, {"Local", "2"});
   s.row(F("gridCatastrophes2"), 1, {"0.9", "0.8"});
-  s.row(F("gridDegMonop"), 1, {"40", "", ""});
+  s.column(F("gridDegMonop"), 1, {"40", "", ""});
   s.row(F("gridInitPopStable"), 1, {"480"});
-  s.row(F("gridCarryingCap1"), 1, {"650", "30"});
-  s.row(F("gridCarryingCap2"), 1, {"0", "", ""});
+  s.column(F("gridCarryingCap1"), 1, {"650", "30"});
+  s.column(F("gridCarryingCap2"), 1, {"0", "", ""});
   s.column(F("gridHarvest"), 1, {"0", "", "", "", ""});
   s.column(F("gridSuppl"), 1, {"0", "", "", "", ""});
 
@@ -87,19 +87,19 @@ ExampleScenario KoalaBaseline() {
     s.row(F("gridMortMales"), p, {"25", "6", "18", "4", "18", "4", "12", "3"});
     s.row(F("gridCatastrophes1"), p, {"Local", "4", "Global", "10"});
     s.row(F("gridCatastrophes2"), p, {"0.6", "0.7", "0.8", "0.9"});
-    s.row(F("gridDegMonop"), p, {"50", "", ""});
+    s.column(F("gridDegMonop"), p, {"50", "", ""});
     s.column(F("gridHarvest"), p, {"0", "", "", "", ""});
     s.column(F("gridSuppl"), p, {"0", "", "", "", ""});
-    s.row(F("gridCarryingCap2"), p, {"0", "", ""});
+    s.column(F("gridCarryingCap2"), p, {"0", "", ""});
   }
   s.row(F("gridDispRates"), 1, {"", "4", "1"});
   s.row(F("gridDispRates"), 2, {"6", "", "3"});
   s.row(F("gridDispRates"), 3, {"2", "4", ""});
   s.cell(F("gridCatastropheLabels"), 0, 1, "Bushfire").cell(F("gridCatastropheLabels"), 1, 1, "Drought");
   s.row(F("gridInitPopStable"), 1, {"250"}).row(F("gridInitPopStable"), 2, {"120"}).row(F("gridInitPopStable"), 3, {"40"});
-  s.row(F("gridCarryingCap1"), 1, {"300", "30"}).row(F("gridCarryingCap1"), 2, {"150", "15"});
-  s.row(F("gridCarryingCap1"), 3, {"80", "8"});
-  s.row(F("gridCarryingCap2"), 3, {"1", "30", "-1"});
+  s.column(F("gridCarryingCap1"), 1, {"300", "30"}).column(F("gridCarryingCap1"), 2, {"150", "15"});
+  s.column(F("gridCarryingCap1"), 3, {"80", "8"});
+  s.column(F("gridCarryingCap2"), 3, {"1", "30", "-1"});
   return s;
 }
 

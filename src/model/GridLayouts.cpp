@@ -116,14 +116,14 @@ Grid LayoutGrid(Field grid, const LayoutCounts& counts) {
   if (member == "gridCatastrophes2")
     return PerPopulationRows(counts, CatastropheColumns(counts.catastrophes, "Reproduction", "Survival"));
   if (member == "gridDegMonop")
-    return PerPopulationRows(counts, {"% Males in Breeding Pool", "% Males Successfully Siring Offspring",
-                                      "Mean Offspring per Successful Sire"});
+    return PerPopulationColumns(counts, {"% Males in Breeding Pool", "% Males Successfully Siring Offspring",
+                                         "Mean Offspring per Successful Sire"});
   if (member == "gridInitPopStable") return PerPopulationRows(counts, {"Initial population size"});
   if (member == "gridInitPopFemale") return PerPopulationRows(counts, AgeColumns("Females Age", counts.maxAge));
   if (member == "gridInitPopMale") return PerPopulationRows(counts, AgeColumns("Males Age", counts.maxAge));
-  if (member == "gridCarryingCap1") return PerPopulationRows(counts, {"Carrying Capacity (K)", "SD in K Due to EV"});
+  if (member == "gridCarryingCap1") return PerPopulationColumns(counts, {"Carrying Capacity (K)", "SD in K Due to EV"});
   if (member == "gridCarryingCap2")
-    return PerPopulationRows(counts, {"Trend in K?", "Over how many years?", "% annual increase/decrease"});
+    return PerPopulationColumns(counts, {"Trend in K?", "Over how many years?", "% annual increase/decrease"});
   if (member == "gridHarvest")
     return PerPopulationColumns(counts, {"Population Harvested?", "First Year of Harvest", "Last Year of Harvest",
                                          "Interval Between Harvests", "Optional Criterion for Harvest"});
