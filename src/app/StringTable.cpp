@@ -6,7 +6,7 @@
 
 #include "app/Errors.h"
 
-// File format: one entry per line, "identifier<TAB>text". Lines that are empty
+// File format (UTF-8): one entry per line, "identifier<TAB>text". Lines that are empty
 // or start with '#' are ignored. In the text, "\n" is a line break, "\s" a
 // blank and "\\" a backslash; a raw blank or tab at the end of a line is an
 // error, so that an editor that strips trailing blanks cannot change a text.
@@ -39,6 +39,29 @@ std::string Unescape(const std::string& raw, const std::string& where) {
     }
   }
   return text;
+}
+
+// Bytes in a UTF-8 sequence that starts with `lead`; 0 when no sequence can.
+std::size_t SequenceLength(unsigned char lead) {
+  if (lead < 0x80) return 1;
+  if ((lead >> 5) == 0x6) return 2;
+  if ((lead >> 4) == 0xE) return 3;
+  if ((lead >> 3) == 0x1E) return 4;
+  return 0;
+}
+
+// Well-formed UTF-8: a file saved in a legacy code page fails here rather than
+// showing garbled captions.
+bool IsUtf8(const std::string& text) {
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t length = SequenceLength(static_cast<unsigned char>(text[i]));
+    if (length == 0 || i + length > text.size()) return false;
+    for (std::size_t k = 1; k < length; ++k) {
+      if ((static_cast<unsigned char>(text[i + k]) >> 6) != 0x2) return false;
+    }
+    i += length;
+  }
+  return true;
 }
 
 int ParseIdentifier(const std::string& digits, const std::string& where) {
@@ -74,6 +97,7 @@ StringTable StringTable::fromText(const std::string& contents, const std::string
     if (line.find_first_not_of(" \t") == std::string::npos || line.front() == '#') continue;
 
     const std::string where = Where(origin, number);
+    if (!IsUtf8(line)) throw FileError(where + "not valid UTF-8 (save the file as UTF-8)");
     const std::size_t tab = line.find('\t');
     if (tab == std::string::npos) throw FileError(where + "no tab between identifier and text");
     const int id = ParseIdentifier(line.substr(0, tab), where);

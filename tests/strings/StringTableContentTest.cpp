@@ -56,7 +56,8 @@ TEST(ShippedStrings, TranslationsAreNotCopiesOfTheEnglish) {
       if (translated.text(number) == English(number)) ++same;
     }
     // Names, formulas and words like "OK" legitimately stay as they are.
-    EXPECT_LT(same * 8, static_cast<int>(numbers.size())) << "language " << static_cast<int>(language);
+    EXPECT_LT(same * 8, static_cast<int>(numbers.size()))
+        << "language " << static_cast<int>(language);
   }
 }
 

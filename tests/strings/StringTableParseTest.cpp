@@ -89,6 +89,9 @@ TEST(StringTableErrors, RejectTextsAnEditorCouldSilentlyChange) {
   EXPECT_EQ(FailureOf("10001\tbad \\q escape\n"), "sample.txt, line 1: unknown escape \\q");
   EXPECT_EQ(FailureOf("10001\tdangling \\\n"),
             "sample.txt, line 1: backslash at the end of the text");
+  EXPECT_EQ(FailureOf("10001\tok\n30001\tL\xE4nge\n"),
+            "sample.txt, line 2: not valid UTF-8 (save the file as UTF-8)")
+      << "a Latin-1 umlaut";
 }
 
 TEST(StringTableErrors, AMissingFileIsAFileError) {
