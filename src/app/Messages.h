@@ -54,8 +54,10 @@ namespace msg {
 inline constexpr int kWarning = 9103;
 inline constexpr int kUnableToRunSimulation = 9110;
 inline constexpr int kError = 9111;
+inline constexpr int kConfirmation = 9115;
 inline constexpr int kFillDensityValues = 9116;
 inline constexpr int kCheckDensityBox = 9117;
+inline constexpr int kConfirmDeleteScenario = 9121;
 inline constexpr int kProjectNameMismatch = 9136;
 inline constexpr int kChangeProjectName = 9137;
 inline constexpr int kProjectDoesNotExist = 9139;
