@@ -40,10 +40,12 @@ std::map<std::string, int> NamedMessages() {
 }
 
 // Message numbers used in the sources: msg:: constants, and literal numbers
-// handed to a text or caption look-up.
+// looked up in an object named for strings, messages or a table (so that a
+// widget's item->text(0) is not taken for a message number).
 std::map<int, std::string> UsedNumbers(const std::map<std::string, int>& named) {
   const std::regex byName(R"(msg::(k\w+))");
-  const std::regex literal(R"(\b(?:text|Text|caption|Caption)\s*\(\s*(\d{1,4})\s*\))");
+  const std::regex literal(
+      R"(\w*(?:[Ss]trings?|[Mm]essages?|[Tt]able)\w*\s*(?:\.|->)\s*text\s*\(\s*(\d{1,4})\s*\))");
   const std::regex literalCaption(R"(\bshow\([^;]*?,\s*(\d{1,4})\s*,\s*MsgIcon::)");
   std::map<int, std::string> used;
   for (const auto& value : named) used[value.second] = "src/app/Messages.h";
