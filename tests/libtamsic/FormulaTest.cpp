@@ -6,6 +6,7 @@
 
 #include "FakeContext.h"
 #include "formula/Formula.h"
+#include "formula/Parser.h"
 
 namespace tamsic::formula {
 namespace {
@@ -197,7 +198,7 @@ TEST(Formula, NestingAndLengthAreLimited) {
 TEST(Formula, CompiledFormIsFlatAndFolded) {
   const auto density = CompileText("=(50-((50-20)*((N/K)^2)))*(N/(5+N))");
   ASSERT_TRUE(density.program);
-  EXPECT_EQ(density.program->code().size(), 11u);
+  EXPECT_EQ(density.program->code().size(), 7u);
   FakeContext context;
   for (double n : {0.0, 1.0, 37.0, 100.0, 250.0}) {
     context.values = {{Var::N, n}, {Var::K, 120}};
@@ -220,6 +221,45 @@ TEST(Formula, CompiledFormIsFlatAndFolded) {
 
   EXPECT_TRUE(CompileText("=B*1.1").program->uses(Var::B));
   EXPECT_FALSE(density.program->uses(Var::B));
+}
+
+// Items of a batch: N is the item's number, K fixed, and the item is what
+// FF() answers, so that a mix-up of items shows.
+class ItemsContext : public FakeContext {
+ public:
+  void select(std::size_t item) override {
+    item_ = item;
+    values[Var::N] = static_cast<double>(item);
+  }
+  double indexed(IndexedVar, double argument) override { return 1000.0 * item_ + argument; }
+
+ private:
+  std::size_t item_ = 0;
+};
+
+TEST(Formula, BatchGivesWhatSingleEvaluationsGive) {
+  const auto compiled =
+      CompileText("=(50-((50-20)*((N/K)^2)))*(N/(5+N))+FF(2)+MOD(N;3)+(N>20)+SQRT(N)");
+  ASSERT_TRUE(compiled.program);
+  ItemsContext context;
+  context.values[Var::K] = 30;
+  // 40 items: two full groups of the batch and a part.
+  std::vector<double> batch(40);
+  compiled.program->evaluateBatch(context, batch.size(), batch.data());
+  for (std::size_t item = 0; item < batch.size(); ++item) {
+    context.select(item);
+    EXPECT_EQ(batch[item], compiled.program->evaluate(context)) << item;
+  }
+
+  // Constants and random draws reach every item.
+  ItemsContext draws;
+  draws.uniforms = {0.25, 0.5, 0.75};
+  std::vector<double> random(5);
+  CompileText("=2+RAND").program->evaluateBatch(draws, random.size(), random.data());
+  EXPECT_EQ(random, (std::vector<double>{2.25, 2.5, 2.75, 2.25, 2.5}));
+  std::vector<double> constant(3);
+  CompileText("=PI*2").program->evaluateBatch(draws, constant.size(), constant.data());
+  EXPECT_EQ(constant, std::vector<double>(3, 2 * std::numbers::pi));
 }
 
 }  // namespace
