@@ -51,6 +51,7 @@ class Messages {
 
 // Message numbers the core uses, so that a typo is a compile error.
 namespace msg {
+inline constexpr int kReorderCaution = 8007;
 inline constexpr int kWarning = 9103;
 inline constexpr int kUnableToRunSimulation = 9110;
 inline constexpr int kError = 9111;
@@ -58,6 +59,10 @@ inline constexpr int kConfirmation = 9115;
 inline constexpr int kFillDensityValues = 9116;
 inline constexpr int kCheckDensityBox = 9117;
 inline constexpr int kConfirmDeleteScenario = 9121;
+inline constexpr int kInvalidInput = 9132;
+inline constexpr int kNumericOrFunction = 9133;
+inline constexpr int kSignSuffix = 9134;
+inline constexpr int kDispersalAges = 9135;
 inline constexpr int kProjectNameMismatch = 9136;
 inline constexpr int kChangeProjectName = 9137;
 inline constexpr int kProjectDoesNotExist = 9139;

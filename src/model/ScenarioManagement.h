@@ -36,7 +36,4 @@ std::optional<std::string> ScenarioNameProblem(const ScenarioCollection& scenari
 std::size_t MoveScenarioUp(ScenarioCollection& scenarios, std::size_t number);
 std::size_t MoveScenarioDown(ScenarioCollection& scenarios, std::size_t number);
 
-inline constexpr std::string_view kReorderCaution =
-    "Caution: Changing the order of scenarios can change the baselines of ST analyses.";
-
 }  // namespace tamsic

@@ -1,0 +1,130 @@
+#include <gtest/gtest.h>
+
+#include "engine/EngineLibrary.h"
+#include "pages/InputChecks.h"
+#include "support/RecordingMessageBox.h"
+
+namespace tamsic {
+namespace {
+
+// Answers formula tests as told and remembers what it was asked.
+class FakeEngine : public Engine {
+ public:
+  std::string tamsicsim(const std::string&, const std::string&, const std::string&) override { return {}; }
+  std::string tcheckin(const std::string&, std::int32_t) override { return {}; }
+  std::string agedist(std::int16_t) override { return {}; }
+  std::string detGraphValues(const std::string&, std::int32_t) override { return {}; }
+  std::string findpolyg(std::int16_t, const std::array<double, 4>&) override { return {}; }
+  std::string testFormula(const std::string& formula) override {
+    if (unavailable) throw EngineUnavailable("libtamsic.so: cannot open shared object file");
+    asked.push_back(formula);
+    return reply;
+  }
+  std::string formulaGraphValues(const std::string&, const GraphRequest&) override { return {}; }
+  std::optional<std::string> progress() override { return std::nullopt; }
+  bool cancel() override { return false; }
+  void close() override {}
+
+  std::vector<std::string> asked;
+  std::string reply = "Polish: / N K";
+  bool unavailable = false;
+};
+
+class InputChecksTest : public ::testing::Test {
+ protected:
+  bool Grid(const char* member, std::size_t row, std::string_view text) {
+    const auto check = CellCheckFor(*FieldByMember(member), row);
+    EXPECT_TRUE(check.has_value()) << member << " row " << row;
+    return TestGridCell(text, *check, recorder.messages, engine);
+  }
+  std::vector<MessageBoxRequest>& shown() { return recorder.box.shown; }
+  test::MessageRecorder recorder;
+  FakeEngine engine;
+};
+
+TEST_F(InputChecksTest, PercentCells) {
+  EXPECT_FALSE(Grid("gridMortFemales", 1, "0"));
+  EXPECT_FALSE(Grid("gridMortFemales", 1, "1"));
+  EXPECT_FALSE(Grid("gridMortFemales", 1, "100"));
+  EXPECT_TRUE(shown().empty());
+  EXPECT_FALSE(Grid("gridMortFemales", 1, "0.5")) << "questioned, then accepted";
+  ASSERT_EQ(shown().size(), 1u);
+  EXPECT_EQ(shown()[0].text,
+            "Value should be a percent (< 100), but appears to be entered as a proportion (< 1). Is this correct?");
+  EXPECT_EQ(shown()[0].caption, "Warning!");
+  EXPECT_EQ(shown()[0].buttons, MsgButtons::Ok);
+  EXPECT_TRUE(Grid("gridMortFemales", 1, "100.01"));
+  EXPECT_TRUE(Grid("gridRepRates1", 1, "-1"));
+  EXPECT_TRUE(Grid("gridRepRates3", 1, "abc"));
+  EXPECT_EQ(shown().back().text, "Invalid input");
+  EXPECT_EQ(shown().back().icon, MsgIcon::Critical);
+  shown().clear();
+  EXPECT_FALSE(Grid("gridCatastrophes2", 1, "0.5")) << "no percent question above 100";
+  EXPECT_FALSE(Grid("gridCarryingCap1", 1, "60000"));
+  EXPECT_TRUE(Grid("gridCarryingCap1", 1, "60001"));
+  EXPECT_EQ(shown().size(), 1u);
+}
+
+TEST_F(InputChecksTest, WholeNumbersAndRows) {
+  EXPECT_TRUE(Grid("gridInitPopStable", 1, "12.5"));
+  EXPECT_FALSE(Grid("gridInitPopFemale", 1, ""));
+  EXPECT_FALSE(Grid("gridInitPopMale", 2, "30000"));
+  EXPECT_TRUE(Grid("gridInitPopMale", 2, "30001"));
+  EXPECT_FALSE(Grid("gridCarryingCap2", 3, "-2.5")) << "a declining K";
+  EXPECT_TRUE(Grid("gridCarryingCap2", 2, "2.5"));
+  EXPECT_FALSE(CellCheckFor(*FieldByMember("gridCarryingCap2"), 1).has_value());
+  EXPECT_TRUE(Grid("gridHarvest", 3, "=Y"));
+  EXPECT_FALSE(Grid("gridHarvest", 5, "=N>100"));
+  EXPECT_TRUE(Grid("gridDegMonop", 2, "=N")) << "only the first row takes functions";
+  EXPECT_FALSE(Grid("gridDegMonop", 3, "250"));
+  EXPECT_FALSE(CellCheckFor(*FieldByMember("gridPopLabels"), 1).has_value());
+}
+
+TEST_F(InputChecksTest, FunctionsGoToTheEngineAndFilesDoNot) {
+  EXPECT_FALSE(Grid("gridMortMales", 1, "=N/K"));
+  EXPECT_FALSE(Grid("gridMortMales", 1, "file=rates.txt"));
+  EXPECT_EQ(engine.asked, std::vector<std::string>{"=N/K"});
+  engine.reply = "Error: unknown name QQ at character 2";
+  EXPECT_TRUE(Grid("gridMortMales", 1, "=QQ"));
+  ASSERT_EQ(shown().size(), 1u);
+  EXPECT_EQ(shown()[0].text, "Error: unknown name QQ at character 2");
+  EXPECT_EQ(shown()[0].caption, "Warning!");
+  engine.unavailable = true;
+  EXPECT_FALSE(Grid("gridMortMales", 1, "=N")) << "kept to be checked when it runs";
+  EXPECT_EQ(shown().back().text.rfind("Unable to run simulation\r\n\r\n", 0), 0u);
+}
+
+TEST_F(InputChecksTest, TextBoxes) {
+  const TextBoxLimits limits{0, 100, "Too small", "Too large"};
+  EXPECT_FALSE(TestTextBoxFunctions("50", limits, recorder.messages, engine));
+  EXPECT_FALSE(TestTextBoxFunctions("", limits, recorder.messages, engine));
+  EXPECT_TRUE(TestTextBoxFunctions("-1", limits, recorder.messages, engine));
+  EXPECT_TRUE(TestTextBoxFunctions("101", limits, recorder.messages, engine));
+  EXPECT_TRUE(TestTextBoxFunctions("lots", limits, recorder.messages, engine));
+  ASSERT_EQ(shown().size(), 3u);
+  EXPECT_EQ(shown()[0].text, "Too small");
+  EXPECT_EQ(shown()[1].text, "Too large");
+  EXPECT_EQ(shown()[2].text, "The value must be numeric or a function, preceded by the = sign.");
+  EXPECT_FALSE(TestTextBoxFunctions("=D*(1-N/K)", limits, recorder.messages, engine));
+
+  EXPECT_EQ(WholeNumberProblem(F("txtAgeReproF"), "2.5"), "Age of reproduction must be a integer value!");
+  EXPECT_EQ(WholeNumberProblem(F("txtMaxLitters"), "1.5"), "Maximum number of broods must be a integer value!");
+  EXPECT_EQ(WholeNumberProblem(F("txtMaxAgeRepro"), "12"), std::nullopt);
+
+  shown().clear();
+  EXPECT_FALSE(TestDispersalAges("2", "2", recorder.messages));
+  EXPECT_TRUE(TestDispersalAges("3", "2", recorder.messages));
+  ASSERT_EQ(shown().size(), 1u);
+  EXPECT_EQ(shown()[0].text, "The lower age for dispersal must be less than the upper age for dispersal");
+}
+
+TEST_F(InputChecksTest, ExactDistributionSumsToOneHundred) {
+  tamsic::Grid distribution(5, 2);
+  distribution.at(1, 1) = "10";
+  distribution.at(2, 1) = "25.5";
+  distribution.at(3, 1) = "";
+  EXPECT_EQ(ExactDistributionRemainder(distribution), "64.50");
+}
+
+}  // namespace
+}  // namespace tamsic
