@@ -6,10 +6,11 @@
 
 #include "app/Errors.h"
 
-// File format (UTF-8): one entry per line, "identifier<TAB>text". Lines that are empty
-// or start with '#' are ignored. In the text, "\n" is a line break, "\s" a
-// blank and "\\" a backslash; a raw blank or tab at the end of a line is an
-// error, so that an editor that strips trailing blanks cannot change a text.
+// File format (UTF-8): one entry per line, "identifier<TAB>text". Lines that
+// are empty or start with '#' are ignored. In the text, "\n" is a line break,
+// "\s" a blank and "\\" a backslash; a raw blank or tab at the end of a line
+// is an error, so that an editor that strips trailing blanks cannot change a
+// text.
 
 namespace tamsic {
 
@@ -104,8 +105,9 @@ StringTable StringTable::fromText(const std::string& contents, const std::string
     if (line.back() == ' ' || line.back() == '\t') {
       throw FileError(where + "blank at the end of the line (write a trailing blank as \\s)");
     }
-    const auto [it, added] = table.entries_.emplace(id, Unescape(line.substr(tab + 1), where));
-    if (!added) throw FileError(where + "identifier " + std::to_string(id) + " appears twice");
+    if (!table.entries_.emplace(id, Unescape(line.substr(tab + 1), where)).second) {
+      throw FileError(where + "identifier " + std::to_string(id) + " appears twice");
+    }
   }
   return table;
 }
