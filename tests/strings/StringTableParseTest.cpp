@@ -1,6 +1,8 @@
 // The loader: identifiers, languages, escapes, and errors that name the line.
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <fstream>
 #include <string>
 
 #include "app/Errors.h"
@@ -94,8 +96,17 @@ TEST(StringTableErrors, RejectTextsAnEditorCouldSilentlyChange) {
       << "a Latin-1 umlaut";
 }
 
-TEST(StringTableErrors, AMissingFileIsAFileError) {
+TEST(StringTableErrors, FromAFileNameThePath) {
   EXPECT_THROW(StringTable::fromFile("/nonexistent/strings.txt"), FileError);
+  const std::string path = testing::TempDir() + "broken_strings.txt";
+  std::ofstream(path) << "10001\tfine\n10002\tends badly\\\n";
+  try {
+    StringTable::fromFile(path);
+    ADD_FAILURE() << "no error";
+  } catch (const FileError& error) {
+    EXPECT_EQ(std::string(error.what()), path + ", line 2: backslash at the end of the text");
+  }
+  std::remove(path.c_str());
 }
 
 TEST(StringTableErrors, TheHighestIdentifierIsAccepted) {
