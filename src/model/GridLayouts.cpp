@@ -139,6 +139,14 @@ Grid LayoutGrid(Field grid, const LayoutCounts& counts) {
   throw std::logic_error(member + " is not a grid");
 }
 
+bool PopulationsInColumns(Field grid) {
+  const std::string_view member = Describe(grid).member;
+  for (std::string_view name : {"gridReproSys", "gridDegMonop", "gridCarryingCap1", "gridCarryingCap2",
+                                "gridHarvest", "gridSuppl"})
+    if (member == name) return true;
+  return false;
+}
+
 Grid Relayout(const Grid& old, Field grid, const LayoutCounts& counts) {
   Grid fresh = LayoutGrid(grid, counts);
   // The catastrophe labels have no heading row: every row is a catastrophe.

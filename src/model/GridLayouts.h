@@ -27,6 +27,10 @@ struct LayoutCounts {
 // A grid of the right shape with its headings in English and every other cell empty.
 Grid LayoutGrid(Field grid, const LayoutCounts& counts);
 
+// Whether the grid has one column per population (settings in rows) rather
+// than one row per population.
+bool PopulationsInColumns(Field grid);
+
 // Gives the grid the shape and headings of LayoutGrid, keeping the values of
 // the cells that lie in both the old and the new shape.
 Grid Relayout(const Grid& old, Field grid, const LayoutCounts& counts);
