@@ -5,7 +5,6 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "ProjectSamples.h"
 #include "app/Errors.h"
@@ -13,32 +12,20 @@
 #include "files/ProjectOpen.h"
 #include "files/ProjectSignature.h"
 #include "support/RecordingMessageBox.h"
+#include "support/TestFolder.h"
 
 namespace tamsic {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string ReadAll(const fs::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
-}
+using test::ReadAll;
 
 class OpenAndSaveTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    dir = fs::temp_directory_path() / ("tamsic-open-" + std::to_string(::getpid()) + "-" +
-                                       ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-    path = (dir / "Trout.tpj").string();
-  }
-  void TearDown() override { fs::remove_all(dir); }
-
-  fs::path dir;
-  std::string path;
+  test::TestFolder folder;
+  const fs::path& dir = folder.path();
+  std::string path = folder.file("Trout.tpj");
   test::MessageRecorder recorder;
 };
 

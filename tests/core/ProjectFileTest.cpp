@@ -2,42 +2,30 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "ProjectSamples.h"
 #include "app/Errors.h"
 #include "files/ProjectFile.h"
 #include "support/RecordingMessageBox.h"
+#include "support/TestFolder.h"
 
 namespace tamsic {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string ReadAll(const fs::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
-}
+using test::ReadAll;
 
 class ProjectFileTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    dir = fs::temp_directory_path() / ("tamsic-project-" + std::to_string(::getpid()) + "-" +
-                                       ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-  }
-  void TearDown() override { fs::remove_all(dir); }
-  std::string Path(const std::string& name) const { return (dir / name).string(); }
+  std::string Path(const std::string& name) const { return folder.file(name); }
 
   ProjectDocument SaveAndLoad(const ProjectDocument& project, const std::string& name = "p.tpj") {
     SaveProject(project, Path(name), recorder.messages);
     return LoadProject(Path(name), kFileVersion, recorder.messages);
   }
 
-  fs::path dir;
+  test::TestFolder folder;
   test::MessageRecorder recorder;
 };
 
