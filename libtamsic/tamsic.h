@@ -12,7 +12,7 @@
  * Replies. Every export receives first a pointer to a TamsicVariant, the
  * result slot, and fills it with the codes of its reply text. The library
  * allocates the codes with malloc; the caller owns them after the call and
- * releases them with tamsicFreeVariant (or free). The library does not look
+ * releases them with tamsicFreeVariant. The library does not look
  * at what the slot held before; pass a zeroed slot. An empty reply has count
  * 0 and codes NULL; if memory runs out the slot is left empty.
  *
