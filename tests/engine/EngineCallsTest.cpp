@@ -1,8 +1,10 @@
 // Every export called through the real library, loaded as the program loads it.
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cmath>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "engine/Engine.h"
@@ -115,6 +117,25 @@ TEST(EngineCalls, GraphValuesRefuseWhatCannotBeDrawn) {
   EXPECT_EQ(engine.formulaGraphValues("=N+", {11, 0, 1, 0, 0, 1}),
             "Error: expected a number, a name or '(' but found the end of the function at "
             "character 4");
+}
+
+// The formula calls keep no state between calls, so threads may share them.
+TEST(EngineCalls, FormulaCallsFromSeveralThreads) {
+  LibraryEngine engine;
+  const std::string density = "=(50-((50-20)*((N/K)^2)))*(N/(5+N))";
+  const std::string polish = engine.testFormula(density);
+  const std::string values = engine.formulaGraphValues(density + "+RAND", {11, 0, 200, 0, 0, 1});
+  std::vector<std::thread> threads;
+  std::atomic<int> mismatches{0};
+  for (int t = 0; t < 4; ++t)
+    threads.emplace_back([&] {
+      for (int i = 0; i < 50; ++i) {
+        mismatches += engine.testFormula(density) != polish;
+        mismatches += engine.formulaGraphValues(density + "+RAND", {11, 0, 200, 0, 0, 1}) != values;
+      }
+    });
+  for (auto& thread : threads) thread.join();
+  EXPECT_EQ(mismatches, 0);
 }
 
 TEST(EngineCalls, SimulationCallsSayTheyAreNotAvailable) {
