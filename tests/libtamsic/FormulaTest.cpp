@@ -95,6 +95,26 @@ TEST(Formula, EveryFunctionAndItsArgumentCount) {
   for (const auto& [text, expected] : cases)
     EXPECT_NEAR(Eval(std::string("=") + text), expected, 1e-12) << text;
 
+  // One argument too few and one too many, for every function.
+  const std::pair<const char*, int> arities[] = {
+      {"SQRT", 1}, {"LOG10", 1}, {"LN", 1},    {"EXP", 1},   {"ABS", 1},    {"ROUND", 1},
+      {"FLOOR", 1}, {"CEIL", 1}, {"SIN", 1},   {"COS", 1},   {"TAN", 1},    {"ASIN", 1},
+      {"ACOS", 1},  {"ATAN", 1}, {"SRAND", 1}, {"SNRAND", 1}, {"POW", 2},   {"MIN", 2},
+      {"MAX", 2},   {"MOD", 2},  {"KIN", 2},   {"FF", 1},    {"IMEAN", 1},  {"PPS3", 1},
+      {"RAND", 0},  {"NRAND", 0}};
+  for (const auto& [name, arity] : arities) {
+    const auto call = [&](int count) {
+      std::string text = std::string("=") + name + "(";
+      for (int i = 0; i < count; ++i) text += i == 0 ? "1" : ";1";
+      return Check(text + ")");
+    };
+    EXPECT_FALSE(call(arity).error) << name;
+    if (arity > 0) {
+      EXPECT_TRUE(call(arity - 1).error) << name;
+    }
+    ASSERT_TRUE(call(arity + 1).error) << name;
+    EXPECT_NE(call(arity + 1).error->message.find("takes"), std::string::npos) << name;
+  }
   EXPECT_EQ(ErrorOf("=SQRT()"), "\"SQRT\" takes 1 argument, not 0 at character 6");
   EXPECT_EQ(ErrorOf("=SQRT(1;2)"), "\"SQRT\" takes 1 argument, not 2 at character 6");
   EXPECT_EQ(ErrorOf("=POW(2)"), "\"POW\" takes 2 arguments, not 1 at character 5");
