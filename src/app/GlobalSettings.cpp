@@ -1,0 +1,44 @@
+#include "app/GlobalSettings.h"
+
+#include <charconv>
+#include <string>
+
+namespace tamsic {
+
+namespace {
+
+constexpr int kDefault = 1;
+
+int ReadInteger(const ISettingsStore& store, const char* key) {
+  const std::string text = store.GetSetting(kSettingsApplication, kGlobalSettingsSection, key, "");
+  const auto first = text.find_first_not_of(' ');
+  const auto last = text.find_last_not_of(' ');
+  if (first == std::string::npos) return kDefault;
+  int value = kDefault;
+  const char* end = text.data() + last + 1;
+  const auto [stop, error] = std::from_chars(text.data() + first, end, value);
+  return error == std::errc() && stop == end ? value : kDefault;
+}
+
+void Write(ISettingsStore& store, const char* key, int value) {
+  store.SaveSetting(kSettingsApplication, kGlobalSettingsSection, key, std::to_string(value));
+}
+
+}  // namespace
+
+GlobalSettings ReadGlobalSettings(const ISettingsStore& store) {
+  GlobalSettings settings;
+  settings.showEquationDialogOnEquals = ReadInteger(store, "ShowEquationDialogOnEquals");
+  settings.showWelcome = ReadInteger(store, "ShowWelcome");
+  settings.language = ReadInteger(store, "Language");
+  if (settings.language < 0 || settings.language > 3) settings.language = kDefault;
+  return settings;
+}
+
+void SaveSettings(ISettingsStore& store, const GlobalSettings& settings) {
+  Write(store, "ShowEquationDialogOnEquals", settings.showEquationDialogOnEquals);
+  Write(store, "ShowWelcome", settings.showWelcome);
+  Write(store, "Language", settings.language);
+}
+
+}  // namespace tamsic

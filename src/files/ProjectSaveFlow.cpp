@@ -1,0 +1,75 @@
+#include "files/ProjectSaveFlow.h"
+
+#include <filesystem>
+
+#include "app/Errors.h"
+#include "files/AtomicFile.h"
+#include "files/ProjectFile.h"
+#include "files/TextCodec.h"
+
+namespace tamsic {
+
+namespace {
+
+// The file is replaced only once the new one is complete, so a failure leaves
+// the earlier file and the window's unsaved state as they were.
+SaveResult Write(ProjectState& state, const std::string& path, Messages& messages) {
+  try {
+    SaveProject(state.document, path, messages);
+  } catch (const FileError& error) {
+    messages.show(error.what(), msg::kError, MsgIcon::Critical);
+    return SaveResult::Failed;
+  }
+  state.SetFullPath(path);
+  state.MarkUnchanged();
+  return SaveResult::Saved;
+}
+
+}  // namespace
+
+SaveResult FunctionSave(ProjectState& state, Messages& messages, ISaveFileDialog& dialog) {
+  if (state.FullPath().empty()) return FunctionSaveAs(state, messages, dialog);
+  std::string path = state.FullPath();
+  const std::string title = TrimmedTitle(state.document);
+  if (!title.empty() && title != state.FileStem() &&
+      messages.show(messages.text(msg::kProjectNameMismatch), msg::kConfirmation,
+                    MsgIcon::Question, MsgButtons::YesNo) == MsgAnswer::Yes)
+    path = (std::filesystem::path(state.WorkingFolder()) / (title + ".tpj")).string();
+  if (!FolderExists(state.WorkingFolder())) return FunctionSaveAs(state, messages, dialog);
+  return Write(state, path, messages);
+}
+
+SaveResult FunctionSaveAs(ProjectState& state, Messages& messages, ISaveFileDialog& dialog) {
+  const std::string folder = state.FullPath().empty() ? state.proposedFolder : state.WorkingFolder();
+  const auto path = dialog.AskSavePath(folder, TrimmedTitle(state.document));
+  if (!path) return SaveResult::Cancelled;
+  const std::string stem = std::filesystem::path(*path).stem().string();
+  if (stem != TrimmedTitle(state.document)) {
+    switch (messages.show(messages.text(msg::kChangeProjectName), msg::kConfirmation,
+                          MsgIcon::Question, MsgButtons::YesNoCancel)) {
+      case MsgAnswer::Cancel:
+        return SaveResult::Cancelled;
+      case MsgAnswer::Yes:
+        state.document.title = Utf8ToCp1252(stem);
+        break;
+      default:
+        break;
+    }
+  }
+  return Write(state, *path, messages);
+}
+
+bool MayCloseProject(ProjectState& state, Messages& messages, ISaveFileDialog& dialog) {
+  if (!state.Changed()) return true;
+  switch (messages.show(messages.text(9118), msg::kConfirmation, MsgIcon::Question,
+                        MsgButtons::YesNoCancel)) {
+    case MsgAnswer::Yes:
+      return FunctionSave(state, messages, dialog) == SaveResult::Saved;
+    case MsgAnswer::No:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace tamsic

@@ -1,0 +1,35 @@
+#include "files/ProjectState.h"
+
+#include <filesystem>
+
+#include "files/TextCodec.h"
+
+namespace tamsic {
+
+std::string ProjectState::WorkingFolder() const {
+  return std::filesystem::path(fullPath_).parent_path().string();
+}
+
+std::string ProjectState::FileName() const {
+  return std::filesystem::path(fullPath_).filename().string();
+}
+
+std::string ProjectState::FileStem() const {
+  return std::filesystem::path(fullPath_).stem().string();
+}
+
+std::string TrimmedTitle(const ProjectDocument& document) {
+  const std::string title = Cp1252ToUtf8(document.title);
+  const auto first = title.find_first_not_of(" \t");
+  if (first == std::string::npos) return {};
+  return title.substr(first, title.find_last_not_of(" \t") - first + 1);
+}
+
+std::string ProjectCaption(const ProjectState& state, const IStringTable& strings) {
+  std::string title = TrimmedTitle(state.document);
+  if (title.empty()) title = strings.text(1426);
+  if (state.FullPath().empty()) return title + strings.text(1427);
+  return title + " - " + state.FullPath();
+}
+
+}  // namespace tamsic

@@ -1,0 +1,42 @@
+#pragma once
+// What a project window keeps besides the project itself: where the file is,
+// whether it has been saved, and whether it changed since.
+#include <string>
+
+#include "app/Messages.h"
+#include "model/ProjectDocument.h"
+
+namespace tamsic {
+
+class ProjectState {
+ public:
+  ProjectDocument document;
+  std::string versionText;     // of the file as opened; empty for a new project
+  std::string proposedFolder;  // where a never-saved project is offered to go
+
+  // The project file (empty until saved or opened), and the folder and file
+  // name derived from it.
+  const std::string& FullPath() const { return fullPath_; }
+  std::string WorkingFolder() const;
+  std::string FileName() const;
+  // The file name without its extension.
+  std::string FileStem() const;
+  void SetFullPath(std::string path) { fullPath_ = std::move(path); }
+
+  bool Changed() const { return changed_; }
+  void MarkChanged() { changed_ = true; }
+  void MarkUnchanged() { changed_ = false; }
+
+ private:
+  std::string fullPath_;
+  bool changed_ = false;
+};
+
+// The title without blanks at either end, in UTF-8 (file titles are Windows-1252).
+std::string TrimmedTitle(const ProjectDocument& document);
+
+// The window caption: the trimmed title, or "Unnamed Tamsic Project" when it
+// is empty, then " - " and the path, or " - not previously saved".
+std::string ProjectCaption(const ProjectState& state, const IStringTable& strings);
+
+}  // namespace tamsic

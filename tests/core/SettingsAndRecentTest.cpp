@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+
+#include "MemorySettingsStore.h"
+#include "app/GlobalSettings.h"
+#include "app/RecentProjects.h"
+
+namespace tamsic {
+namespace {
+
+using test::MemorySettingsStore;
+
+void StoreGlobal(MemorySettingsStore& store, const std::string& key, const std::string& value) {
+  store.SaveSetting("Tamsic 9.99c", "GlobalSettings", key, value);
+}
+
+TEST(GlobalSettings, AbsentOrUnreadableValuesFallBackToOne) {
+  MemorySettingsStore store;
+  EXPECT_EQ(ReadGlobalSettings(store), (GlobalSettings{1, 1, 1}));
+
+  StoreGlobal(store, "ShowEquationDialogOnEquals", "yes");
+  StoreGlobal(store, "ShowWelcome", "0x");
+  StoreGlobal(store, "Language", "7");
+  EXPECT_EQ(ReadGlobalSettings(store), (GlobalSettings{1, 1, 1}));
+
+  StoreGlobal(store, "ShowEquationDialogOnEquals", " 0 ");
+  StoreGlobal(store, "ShowWelcome", "0");
+  StoreGlobal(store, "Language", "3");
+  EXPECT_EQ(ReadGlobalSettings(store), (GlobalSettings{0, 0, 3}));
+}
+
+TEST(GlobalSettings, WrittenValuesReadBack) {
+  MemorySettingsStore store;
+  SaveSettings(store, {0, 1, 0});
+  EXPECT_EQ(store.GetSetting("Tamsic 9.99c", "GlobalSettings", "Language", ""), "0");
+  EXPECT_EQ(ReadGlobalSettings(store), (GlobalSettings{0, 1, 0}));
+}
+
+std::string Stored(const MemorySettingsStore& store, const std::string& key) {
+  return store.GetSetting("RichEdit", "MRUList", key, "<absent>");
+}
+
+TEST(RecentProjects, ReopeningMovesToTopIgnoringCaseWithoutDuplicate) {
+  MemorySettingsStore store;
+  RecentProjects recent(store);
+  recent.Add("/p/Trout.tpj", "Trout");
+  recent.Add("/p/Salmon.tpj", "Salmon");
+  recent.Add("/P/TROUT.tpj", "Trout again");
+
+  ASSERT_EQ(recent.Entries().size(), 2u);
+  EXPECT_EQ(recent.Entries()[0], (RecentProject{"/P/TROUT.tpj", "Trout again"}));
+  EXPECT_EQ(Stored(store, "1Name"), "/P/TROUT.tpj");
+  EXPECT_EQ(Stored(store, "1Title"), "Trout again");
+  EXPECT_EQ(Stored(store, "2Name"), "/p/Salmon.tpj");
+  EXPECT_EQ(Stored(store, "3Name"), "");
+}
+
+TEST(RecentProjects, EleventhProjectDropsTheOldest) {
+  MemorySettingsStore store;
+  RecentProjects recent(store);
+  for (int n = 1; n <= 11; ++n) recent.Add("/p/" + std::to_string(n) + ".tpj", "");
+
+  ASSERT_EQ(recent.Entries().size(), 10u);
+  EXPECT_EQ(recent.Entries().front().name, "/p/11.tpj");
+  EXPECT_EQ(recent.Entries().back().name, "/p/2.tpj");
+  EXPECT_EQ(Stored(store, "10Name"), "/p/2.tpj");
+  EXPECT_EQ(Stored(store, "11Name"), "<absent>");
+}
+
+TEST(RecentProjects, GapInStoredKeysDoesNotEndTheLoadNorComeBackLater) {
+  MemorySettingsStore store;
+  store.SaveSetting("RichEdit", "MRUList", "1Name", "/p/a.tpj");
+  store.SaveSetting("RichEdit", "MRUList", "1Title", "A");
+  store.SaveSetting("RichEdit", "MRUList", "2Name", "");
+  store.SaveSetting("RichEdit", "MRUList", "10Name", "/p/j.tpj");
+  store.SaveSetting("RichEdit", "MRUList", "10Title", "J");
+
+  RecentProjects recent(store);
+  EXPECT_EQ(recent.Entries(),
+            (std::vector<RecentProject>{{"/p/a.tpj", "A"}, {"/p/j.tpj", "J"}}));
+
+  recent.Add("/p/new.tpj", "New");
+  EXPECT_EQ(RecentProjects(store).Entries().size(), 3u);
+}
+
+TEST(RecentProjects, MenuCaptionMakesOnlyTheNumberAnAccessKey) {
+  EXPECT_EQ(RecentProjects::MenuCaption(3, {"/p/Bats & Owls.tpj", "t"}), "&3 /p/Bats && Owls.tpj");
+  EXPECT_EQ(RecentProjects::MenuCaption(10, {"x.tpj", ""}), "&10 x.tpj");
+}
+
+}  // namespace
+}  // namespace tamsic
