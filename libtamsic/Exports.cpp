@@ -9,6 +9,8 @@
 #include "GraphValues.h"
 #include "formula/FileSeries.h"
 #include "formula/Formula.h"
+#include "sim/RunMonitor.h"
+#include "sim/Runner.h"
 #include "tamsic.h"
 
 namespace {
@@ -55,9 +57,12 @@ void tamsicFreeVariant(TamsicVariant* result) {
   result->count = 0;
 }
 
-void tamsicsim(TamsicVariant* result, const int16_t*, int32_t, int32_t, int32_t, const int16_t*,
-               int32_t, const int16_t*, int32_t) {
-  Answer(result, [] { return kNoSimulation; });
+void tamsicsim(TamsicVariant* result, const int16_t* path, int32_t pathCount, int32_t, int32_t,
+               const int16_t* scenarios, int32_t scenariosCount, const int16_t* options, int32_t optionsCount) {
+  Answer(result, [&] {
+    return tamsic::sim::RunScenarios(TextFromCodes(path, pathCount), TextFromCodes(scenarios, scenariosCount),
+                                     TextFromCodes(options, optionsCount));
+  });
 }
 
 void tcheckin(TamsicVariant* result, const int16_t*, int32_t, int32_t) {
@@ -98,11 +103,17 @@ void tamsicWindowClose(TamsicVariant* result) {
 }
 
 void tamsicProgress(TamsicVariant* result) {
-  Answer(result, [] { return "0;0"; });
+  Answer(result, [] {
+    const auto& monitor = tamsic::sim::RunMonitor::get();
+    return std::to_string(monitor.done()) + ";" + std::to_string(monitor.total());
+  });
 }
 
 void tamsicCancel(TamsicVariant* result) {
-  Answer(result, [] { return "Message: cancel requested"; });
+  Answer(result, [] {
+    tamsic::sim::RunMonitor::get().requestCancel();
+    return "Message: cancel requested";
+  });
 }
 
 }  // extern "C"

@@ -141,8 +141,9 @@ TEST(EngineCalls, FormulaCallsFromSeveralThreads) {
 TEST(EngineCalls, SimulationCallsSayTheyAreNotAvailable) {
   LibraryEngine engine;
   const std::string notYet = "Error: the simulation is not available in this build";
-  EXPECT_EQ(engine.tamsicsim("/tmp/p.tpj", "{A}", ""), notYet);
-  EXPECT_EQ(engine.tamsicsim("", "", ""), notYet);
+  EXPECT_EQ(engine.tamsicsim("/tmp/no-such-project.tpj", "{A}", ""),
+            "Error: the project file /tmp/no-such-project.tpj does not exist");
+  EXPECT_TRUE(engine.tamsicsim("", "", "").starts_with("Error: "));
   EXPECT_EQ(engine.tcheckin("/tmp/p.tpj {1}", 0), notYet);
   EXPECT_EQ(engine.agedist(100), notYet);
   EXPECT_EQ(engine.detGraphValues("", 0), notYet);

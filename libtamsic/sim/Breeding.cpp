@@ -1,0 +1,162 @@
+// Breeding: who breeds, with whom, and how many young. Adult females (all
+// adults for hermaphrodites) breed with this year's % breeding; males enter
+// the breeding pool with the % of the monopolization grid. Monogamous males
+// take one female a year, polygamous males are drawn with replacement,
+// long-term pairs stay together while both are alive and in the pool, and a
+// hermaphrodite draws its mate from all adults, itself included.
+#include <algorithm>
+#include <cmath>
+
+#include "sim/Distribution.h"
+#include "sim/Steps.h"
+
+namespace tamsic::sim {
+
+namespace {
+
+double Percent(double value) { return std::clamp(value, 0.0, 100.0) / 100.0; }
+
+struct BroodTables {
+  Discrete broods;
+  Discrete progeny;
+};
+
+BroodTables Tables(const Model& m, const PopulationModel& p, SimContext& context) {
+  std::vector<double> broods;
+  for (const Rate& r : m.broodPercent) broods.push_back(std::max(0.0, r.value(context)));
+  std::vector<double> progeny;
+  if (m.broodByMeanSD) {
+    progeny = RoundedNormal(p.broodMean.value(context), p.broodSD.value(context), m.maxProgeny);
+  } else {
+    for (const Rate& r : m.progenyPercent) progeny.push_back(std::max(0.0, r.value(context)));
+  }
+  return {Discrete(1, broods), Discrete(0, progeny)};
+}
+
+// Members (by index) who take part: breeding females in `mothers`, males of the pool in `pool`.
+void Candidates(const Model& m, const PopulationModel& p, PopulationState& pop, SimContext& context,
+                World& world, std::vector<std::uint32_t>& mothers, std::vector<std::uint32_t>& pool) {
+  const YearConditions& year = pop.year;
+  const bool each = p.breeding.perIndividual();
+  const double mean = each ? 0.0 : p.breeding.value(context);
+  const double shift = p.breedingSD.value(context) * year.breedingDeviate;
+  const double breeding = Percent(mean + shift) * year.reproductionFactor;
+  const double inPool = Percent(p.malesInPool.value(context));
+  mothers.clear();
+  pool.clear();
+  for (std::uint32_t i = 0; i < pop.members.size(); ++i) {
+    const Individual& ind = pop.members[i];
+    if (ind.age < m.firstBreeding[ind.sex]) continue;
+    if (!m.sexual()) pool.push_back(i);
+    if (ind.sex == kMale) {
+      if (world.random.chance(inPool)) pool.push_back(i);
+      continue;
+    }
+    double chance = breeding;
+    if (each) {
+      context.setIndividual(&ind);
+      chance = Percent(p.breeding.value(context) + shift) * year.reproductionFactor;
+    }
+    if (world.random.chance(chance)) mothers.push_back(i);
+  }
+  context.setIndividual(nullptr);
+}
+
+// The pool member of a male id, or -1.
+long PoolIndexOf(const PopulationState& pop, const std::vector<std::uint32_t>& pool, std::uint32_t id) {
+  for (std::size_t k = 0; k < pool.size(); ++k)
+    if (pop.members[pool[k]].id == id) return static_cast<long>(k);
+  return -1;
+}
+
+// The sire (member index) of each mother, or UINT32_MAX when she finds none.
+void Pair(const Model& m, PopulationState& pop, World& world, std::vector<std::uint32_t>& mothers,
+          std::vector<std::uint32_t>& pool, std::vector<std::uint32_t>& sires) {
+  constexpr std::uint32_t kNone = UINT32_MAX;
+  sires.assign(mothers.size(), kNone);
+  if (pool.empty()) return;
+  const bool longTerm = m.mating == Mating::LongTermMonogamous || m.mating == Mating::LongTermPolygamous;
+  const bool oneFemale = m.mating == Mating::Monogamous || m.mating == Mating::LongTermMonogamous;
+  std::size_t available = pool.size();  // pool[0 .. available) are still free for one-female systems
+  auto take = [&](std::size_t k) {
+    const std::uint32_t male = pool[k];
+    if (oneFemale) std::swap(pool[k], pool[--available]);
+    return male;
+  };
+  if (longTerm) {
+    for (std::size_t f = 0; f < mothers.size(); ++f) {
+      const std::uint32_t mate = pop.members[mothers[f]].mate;
+      if (mate == 0) continue;
+      const long k = PoolIndexOf(pop, pool, mate);
+      if (k >= 0 && static_cast<std::size_t>(k) < available) sires[f] = take(static_cast<std::size_t>(k));
+    }
+  }
+  for (std::size_t f = 0; f < mothers.size(); ++f) {
+    if (sires[f] != kNone) continue;
+    if (available == 0) break;
+    sires[f] = take(world.random.below(static_cast<std::uint32_t>(available)));
+  }
+}
+
+void Births(const Model& m, const PopulationModel& p, PopulationState& pop, World& world, SimContext& context,
+            const std::vector<std::uint32_t>& mothers, const std::vector<std::uint32_t>& sires) {
+  const BroodTables tables = Tables(m, p, context);
+  const bool constantRatio = !m.sexRatio.perIndividual();
+  const double maleShare = Percent(m.sexRatio.value(context));
+  world.moving.clear();
+  for (std::size_t f = 0; f < mothers.size(); ++f) {
+    if (sires[f] == UINT32_MAX) continue;
+    Individual& mother = pop.members[mothers[f]];
+    Individual& father = pop.members[sires[f]];
+    if (mother.mate != father.id) ++mother.mates, ++father.mates;
+    if (mother.mate == 0 || m.mating == Mating::LongTermMonogamous || m.mating == Mating::LongTermPolygamous)
+      mother.mate = father.id;
+    if (father.mate == 0) father.mate = mother.id;
+    const int broods = tables.broods.draw(world.random);
+    for (int b = 0; b < broods; ++b) {
+      const int young = tables.progeny.draw(world.random);
+      for (int y = 0; y < young; ++y) {
+        const Newborn child = world.genomes.addChild(mother.genome, father.genome, world.random);
+        ++mother.parity;
+        if (&father != &mother) ++father.parity;
+        if (!child.viable) {
+          world.genomes.release(child.slot);
+          continue;
+        }
+        Individual born;
+        born.id = world.nextId++;
+        born.dam = mother.id;
+        born.sire = father.id;
+        born.genome = child.slot;
+        born.inbreeding = child.inbreeding;
+        born.lethals = child.lethals;
+        double share = maleShare;
+        if (!constantRatio) {
+          context.setIndividual(&born);
+          share = Percent(m.sexRatio.value(context));
+        }
+        born.sex = m.sexual() && world.random.chance(share) ? kMale : kFemale;
+        world.moving.push_back(born);
+      }
+    }
+  }
+  context.setIndividual(nullptr);
+  pop.members.insert(pop.members.end(), world.moving.begin(), world.moving.end());
+}
+
+}  // namespace
+
+void Breed(const Model& model, World& world, SimContext& context) {
+  std::vector<std::uint32_t>& sires = world.scratchC;
+  for (int p = 0; p < model.populations; ++p) {
+    PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
+    if (pop.members.empty()) continue;
+    context.setPopulation(p);
+    const PopulationModel& inputs = model.pops[static_cast<std::size_t>(p)];
+    Candidates(model, inputs, pop, context, world, world.scratchA, world.scratchB);
+    Pair(model, pop, world, world.scratchA, world.scratchB, sires);
+    Births(model, inputs, pop, world, context, world.scratchA, sires);
+  }
+}
+
+}  // namespace tamsic::sim

@@ -1,0 +1,76 @@
+// Dispersal. Individuals of the dispersing sexes and ages leave their
+// population for another with the % per year of the dispersal matrix
+// (source row, recipient column), changed by the modifier function (which
+// sees the matrix rate as D and the recipient as PP), and survive the move
+// with the % survival of dispersers. With the option "M" nobody moves into a
+// population at its K. Arrivals join after everyone has had the chance to
+// leave, so nobody moves twice in a year.
+#include <algorithm>
+
+#include "sim/Steps.h"
+
+namespace tamsic::sim {
+
+namespace {
+
+// Cumulative chances of moving to each population from population p.
+std::vector<double> Destinations(const Model& m, const World& world, int p, SimContext& context) {
+  const PopulationModel& source = m.pops[static_cast<std::size_t>(p)];
+  std::vector<double> cumulative;
+  double total = 0.0;
+  const bool tooFew = m.dispersalMinimum && world.pops[static_cast<std::size_t>(p)].counts.n < *m.dispersalMinimum;
+  for (int q = 0; q < m.populations; ++q) {
+    double rate = q == p || tooFew ? 0.0 : source.dispersal[static_cast<std::size_t>(q)].value(context);
+    if (rate > 0.0 && m.dispersalModifier) {
+      context.setDispersal(rate, q);
+      rate = m.dispersalModifier->value(context);
+    }
+    const PopulationState& target = world.pops[static_cast<std::size_t>(q)];
+    if (m.options.noDispersalIntoFull && target.counts.n >= target.year.capacity) rate = 0.0;
+    total += std::clamp(rate, 0.0, 100.0) / 100.0;
+    cumulative.push_back(total);
+  }
+  // Rates from functions may add up to more than 100 %: scale them down to certainty.
+  if (total > 1.0)
+    for (double& c : cumulative) c /= total;
+  return cumulative;
+}
+
+}  // namespace
+
+void Disperse(const Model& m, World& world, SimContext& context) {
+  if (m.populations < 2 || !(m.dispersing[kFemale] || m.dispersing[kMale])) return;
+  std::vector<std::vector<Individual>> arrivals(static_cast<std::size_t>(m.populations));
+  for (int p = 0; p < m.populations; ++p) {
+    PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
+    if (pop.members.empty()) continue;
+    context.setPopulation(p);
+    const std::vector<double> cumulative = Destinations(m, world, p, context);
+    if (cumulative.back() <= 0.0) continue;
+    const double survival = std::clamp(m.dispersalSurvival.value(context), 0.0, 100.0) / 100.0;
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < pop.members.size(); ++i) {
+      const Individual& ind = pop.members[i];
+      const bool eligible = m.dispersing[ind.sex] && ind.age >= m.dispersalYoung && ind.age <= m.dispersalOld;
+      if (eligible) {
+        const double u = world.random.uniform();
+        const auto to = std::upper_bound(cumulative.begin(), cumulative.end(), u) - cumulative.begin();
+        if (to < m.populations) {
+          if (world.random.chance(survival)) arrivals[static_cast<std::size_t>(to)].push_back(ind);
+          else world.genomes.release(ind.genome);
+          continue;
+        }
+      }
+      pop.members[kept++] = ind;
+    }
+    pop.members.resize(kept);
+  }
+  for (int q = 0; q < m.populations; ++q) {
+    auto& incoming = arrivals[static_cast<std::size_t>(q)];
+    auto& members = world.pops[static_cast<std::size_t>(q)].members;
+    members.insert(members.end(), incoming.begin(), incoming.end());
+  }
+  context.setDispersal(0.0, 0);
+}
+
+}  // namespace tamsic::sim

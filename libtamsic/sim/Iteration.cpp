@@ -1,0 +1,90 @@
+// The yearly cycle. Each year, for all populations together:
+//   1. environment: EV deviates (correlated among populations, concordant
+//      for breeding and survival when asked), catastrophes, K of the year;
+//   2. breeding, with the genetics of the newborns (lethals kill at birth);
+//   3. mortality, then ageing;
+//   4. dispersal;
+//   5. harvest and supplementation;
+//   6. removal of the excess over K, at random across ages and sexes;
+//   7. census, which also applies the definition of extinction.
+// Year 0 is the census of the founders, before any breeding. Every draw
+// comes from the iteration's own random stream in this fixed order, so an
+// iteration's results depend on the seed and its number only.
+#include "sim/Iteration.h"
+
+#include <cmath>
+
+#include "sim/SimContext.h"
+#include "sim/Steps.h"
+#include "sim/TakeCensus.h"
+
+namespace tamsic::sim {
+
+namespace {
+
+constexpr int kIbdLoci = 64;
+
+void Found(const Model& m, const std::vector<StartingNumbers>& start, World& world) {
+  for (std::size_t p = 0; p < start.size(); ++p) {
+    PopulationState& pop = world.pops[p];
+    for (int sex : {kFemale, kMale})
+      for (std::size_t a = 0; a < start[p].byAge[sex].size(); ++a)
+        for (int k = 0; k < start[p].byAge[sex][a]; ++k)
+          pop.members.push_back(MakeFounder(world, m.sexual() ? sex : kFemale, static_cast<int>(a) + 1));
+  }
+}
+
+void Reset(const Model& m, std::uint64_t seed, int iteration, World& world) {
+  world.random = Random(seed, static_cast<std::uint64_t>(iteration));
+  world.genomes.reset(ShapeOf(m), Mix(seed ^ Mix(static_cast<std::uint64_t>(iteration) + 0x5bd1e995ULL)));
+  world.pops.resize(static_cast<std::size_t>(m.populations));
+  for (std::size_t p = 0; p < world.pops.size(); ++p) {
+    PopulationState& pop = world.pops[p];
+    pop.members.clear();
+    pop.counts = Counts{};
+    pop.year = YearConditions{};
+    pop.lastCatastrophe.assign(m.pops[p].catastrophes.size(), -1);
+    pop.extinct = false;
+  }
+  world.nextId = 1;
+  world.iteration = iteration;
+  world.year = 0;
+}
+
+}  // namespace
+
+GenomeShape ShapeOf(const Model& m) {
+  GenomeShape shape;
+  shape.neutralLoci = m.neutralLoci;
+  shape.ibdLoci = std::max(kIbdLoci, m.neutralLoci);
+  const double lethal = m.inbreedingDepression ? m.lethalEquivalents * m.percentLethal / 100.0 : 0.0;
+  if (lethal > 0.0) {
+    shape.lethalLoci = static_cast<int>(std::ceil(lethal));
+    shape.lethalShare = lethal / shape.lethalLoci;
+  }
+  return shape;
+}
+
+void RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std::uint64_t seed, int iteration,
+                  World& world, IterationRecord& record) {
+  Reset(m, seed, iteration, world);
+  record.reset(m.populations > 1 ? m.populations + 1 : 1, m.years);
+  SimContext context(m, world, seed);
+  Found(m, start, world);
+  TakeCensus(m, world, record);
+  for (world.year = 1; world.year <= m.years; ++world.year) {
+    DrawEnvironment(m, world, context);
+    Recount(m, world);
+    Breed(m, world, context);
+    if (m.needsCounts) Recount(m, world);
+    SurviveAndAge(m, world, context);
+    if (m.needsCounts || m.populations > 1) Recount(m, world);
+    Disperse(m, world, context);
+    if (m.needsCounts) Recount(m, world);
+    HarvestAndSupplement(m, world, context);
+    TruncateToCapacity(world);
+    TakeCensus(m, world, record);
+  }
+}
+
+}  // namespace tamsic::sim

@@ -1,0 +1,91 @@
+#include "sim/Rate.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "formula/Formula.h"
+#include "model/TextNumbers.h"
+#include "sim/SimContext.h"
+#include "sim/SimError.h"
+
+namespace tamsic::sim {
+
+using formula::Op;
+using formula::Var;
+
+namespace {
+
+std::string_view Trim(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+bool UsesIndividual(const formula::Program& program) {
+  for (Var var : {Var::A, Var::I, Var::O, Var::S, Var::V, Var::Z, Var::PARITY, Var::ID, Var::DAM, Var::SIRE,
+                  Var::MATE, Var::NMATES})
+    if (program.uses(var)) return true;
+  for (int n = 1; n <= 10; ++n)
+    if (program.uses(formula::StateVar(Var::IS1, n))) return true;
+  // A random draw in a rate is a draw per individual.
+  return std::any_of(program.code().begin(), program.code().end(),
+                     [](const formula::Instruction& in) { return in.op == Op::Rand || in.op == Op::NRand; });
+}
+
+bool UsesCounts(const formula::Program& program) {
+  for (Var var : {Var::F, Var::G, Var::I, Var::J, Var::M, Var::N, Var::U, Var::W, Var::X})
+    if (program.uses(var)) return true;
+  return std::any_of(program.code().begin(), program.code().end(),
+                     [](const formula::Instruction& in) { return in.op == Op::Indexed; });
+}
+
+}  // namespace
+
+Rate Rate::Read(std::string_view text, double emptyValue, const std::string& where,
+                const std::filesystem::path& folder) {
+  const std::string_view cell = Trim(text);
+  Rate rate;
+  rate.where_ = where;
+  if (cell.empty()) {
+    rate.value_ = emptyValue;
+    return rate;
+  }
+  if (const auto file = formula::FileReferenceName(cell)) {
+    if (file->empty()) throw SimError(where + ": \"" + std::string(cell) + "\" names no file");
+    auto loaded = formula::FileSeries::FromFile(folder / *file);
+    if (!loaded.series) throw SimError(where + ": " + loaded.error);
+    if (loaded.series->size() == 0) throw SimError(where + ": the file " + *file + " holds no values");
+    rate.series_ = std::make_shared<const formula::FileSeries>(std::move(*loaded.series));
+    return rate;
+  }
+  if (cell.front() == '=') {
+    auto compiled = formula::CompileText(cell);
+    if (!compiled.program)
+      throw SimError(where + ": the function \"" + std::string(cell) + "\" does not compile: " +
+                     compiled.error->describe());
+    if (compiled.program->uses(Var::B))
+      throw SimError(where + ": the function \"" + std::string(cell) +
+                     "\" uses B, the baseline of a sensitivity test, which only a test scenario can replace");
+    rate.perIndividual_ = UsesIndividual(*compiled.program);
+    rate.usesCounts_ = UsesCounts(*compiled.program);
+    rate.program_ = std::make_shared<const formula::Program>(std::move(*compiled.program));
+    return rate;
+  }
+  const auto number = ExactNumber(cell);
+  if (!number) throw SimError(where + ": \"" + std::string(cell) + "\" is neither a number nor a function");
+  rate.value_ = *number;
+  return rate;
+}
+
+double Rate::value(SimContext& context) const {
+  if (series_) return series_->valueForYear(context.year());
+  if (!program_) return value_;
+  const double result = program_->evaluate(context);
+  if (!std::isfinite(result))
+    throw SimError(where_ + ", population " + std::to_string(context.population() + 1) + ", year " +
+                   std::to_string(context.year()) + ": the function gives " +
+                   (std::isnan(result) ? "no number" : "an infinite value"));
+  return result;
+}
+
+}  // namespace tamsic::sim

@@ -1,0 +1,110 @@
+#include "sim/Runner.h"
+
+#include <ctime>
+#include <filesystem>
+#include <random>
+
+#include "model/TextNumbers.h"
+#include "report/Outcome.h"
+#include "sim/ProjectReader.h"
+#include "sim/ReadModel.h"
+#include "sim/RunMonitor.h"
+#include "sim/SimError.h"
+#include "sim/Simulate.h"
+
+namespace tamsic::sim {
+
+namespace {
+
+std::vector<std::string> ScenarioNames(std::string list) {
+  list = report::Trim(list);
+  if (!list.empty() && list.front() == '{') list.erase(0, 1);
+  if (!list.empty() && list.back() == '}') list.pop_back();
+  std::vector<std::string> names;
+  std::size_t start = 0;
+  while (start <= list.size()) {
+    const std::size_t end = std::min(list.find(',', start), list.size());
+    const std::string name = report::Trim(list.substr(start, end - start));
+    if (!name.empty()) names.push_back(name);
+    start = end + 1;
+  }
+  return names;
+}
+
+std::string Now() {
+  const std::time_t now = std::time(nullptr);
+  char text[32];
+  std::strftime(text, sizeof text, "%Y-%m-%d %H:%M", std::localtime(&now));
+  return text;
+}
+
+struct Finished {
+  std::string line;  // the scenario's summary line
+  bool cancelled = false;
+};
+
+Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, const Options& options,
+                std::uint64_t seed) {
+  const Model model = ReadModel(scenario, std::filesystem::current_path(), options);
+  std::vector<LifeTable> tables;
+  for (int p = 0; p < model.populations; ++p) tables.push_back(BuildLifeTable(model, p));
+  const std::string date = Now();
+  const auto results = Simulate(model, StartingPopulations(model, tables), seed, options.threads);
+  if (!results) return {"", true};
+  const report::Outcome outcome{model, *results, tables, seed, date};
+  const std::string& title = project.title;
+  report::WriteYearlyData(outcome, report::ScenarioFile(title, model.name, ".dat"));
+  report::WriteRunTable(outcome, report::ScenarioFile(title, model.name, ".run"));
+  report::WriteOutputReport(outcome, report::ScenarioFile(title, model.name, ".out"));
+  report::UpdateSummary(outcome, report::Trim(title) + ".sum");
+  return {report::SummaryLine(outcome), false};
+}
+
+std::int64_t TotalIterations(const ProjectDocument& project, const std::vector<std::string>& names) {
+  std::int64_t total = 0;
+  for (const std::string& name : names) {
+    const std::size_t number = project.scenarios.Find(name);
+    if (number > 0) total += std::max(0, LeadingInt(project.scenarios.Item(number).Text(F("txtNumIter"))));
+  }
+  return total;
+}
+
+std::string Run(const std::string& workFile, const std::string& bracedList, const std::string& optionText) {
+  const ProjectDocument project = ReadWorkFile(workFile);
+  const std::vector<std::string> names = ScenarioNames(bracedList);
+  if (names.empty()) throw SimError("no scenario was named to run");
+  const Options options = ParseOptions(optionText);
+  const std::uint64_t seed = options.seed ? *options.seed : std::random_device{}() ^ (std::uint64_t(std::random_device{}()) << 32);
+  RunMonitor::get().start(TotalIterations(project, names));
+  std::string summary;
+  for (const std::string& name : names) {
+    Finished finished;
+    try {
+      finished = RunOne(project, FindScenario(project, name), options, seed);
+    } catch (const SimError& fault) {
+      throw SimError("scenario \"" + name + "\": " + fault.what());
+    }
+    if (finished.cancelled)
+      return "Error: the run was cancelled during scenario \"" + name + "\"" +
+             (summary.empty() ? std::string() : "; finished before it: " + summary);
+    summary += (summary.empty() ? "" : " | ") + finished.line;
+  }
+  return "Message: " + std::to_string(names.size()) + (names.size() == 1 ? " scenario" : " scenarios") +
+         " run with seed " + std::to_string(seed) + " (scenario;years;iterations;Det.r;Stoch.r;SD(r);P(extinct);"
+         "N[extant];SD;N[all];SD;GeneDiv;SD;Inbreeding;#Alleles;MedianTE;MeanTE): " + summary;
+}
+
+}  // namespace
+
+std::string RunScenarios(const std::string& workFile, const std::string& bracedList, const std::string& options) {
+  std::string reply;
+  try {
+    reply = Run(workFile, bracedList, options);
+  } catch (const std::exception& fault) {
+    reply = std::string("Error: ") + fault.what();
+  }
+  RunMonitor::get().finish();
+  return reply;
+}
+
+}  // namespace tamsic::sim

@@ -1,0 +1,14 @@
+#pragma once
+// A run as tamsicsim asks for it: the work file, "{" + scenario names
+// separated by ", " + "}", and the options string. Runs the scenarios in
+// order and writes their files into the current directory.
+#include <string>
+
+namespace tamsic::sim {
+
+// "Message: ..." with a one-line summary, or "Error: ..." naming the
+// scenario and the input at fault. Files of scenarios finished before a
+// fault stay written. Never throws.
+std::string RunScenarios(const std::string& workFile, const std::string& bracedList, const std::string& options);
+
+}  // namespace tamsic::sim

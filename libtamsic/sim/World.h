@@ -1,0 +1,65 @@
+#pragma once
+// The state of one iteration: the living individuals of each population,
+// their genomes, this year's environment and the counts that functions ask
+// for. One World per worker thread is reused from iteration to iteration,
+// so its arrays keep their capacity and a year allocates nothing.
+#include <cstdint>
+#include <vector>
+
+#include "sim/Genome.h"
+#include "sim/Individual.h"
+#include "sim/Random.h"
+
+namespace tamsic::sim {
+
+// Counts of a population that functions and the census use.
+struct Counts {
+  int n = 0;
+  int females = 0;
+  int males = 0;
+  int adultFemales = 0;
+  int adultMales = 0;
+  int juveniles = 0;  // age 0-1
+  int subadults = 0;  // older than 1, younger than the age of breeding
+  double meanInbreeding = 0.0;
+};
+
+// This year's conditions of a population after EV and catastrophes.
+struct YearConditions {
+  double breedingDeviate = 0.0;  // EV deviate of % breeding
+  double survivalDeviate = 0.0;  // EV deviate of mortality (signed so that + is a good year)
+  double capacityDeviate = 0.0;
+  double reproductionFactor = 1.0;  // product of the severities of the catastrophes that struck
+  double survivalFactor = 1.0;
+  double capacity = 0.0;  // K of this year
+};
+
+struct PopulationState {
+  std::vector<Individual> members;
+  Counts counts;
+  YearConditions year;
+  std::vector<int> lastCatastrophe;  // year each type last struck, -1 never
+  bool extinct = false;              // at the last census
+  double geneDiversity = 0.0;  // at the last census
+  double initialGeneDiversity = 0.0;
+};
+
+struct World {
+  World(std::uint64_t seed, std::uint64_t iteration) : random(seed, iteration) {}
+
+  Random random;
+  GenomePool genomes;
+  std::vector<PopulationState> pops;
+  std::uint32_t nextId = 1;
+  int iteration = 1;
+  int year = 0;
+
+  // Work arrays of the yearly steps, kept to save allocations.
+  std::vector<std::uint32_t> scratchA;
+  std::vector<std::uint32_t> scratchB;
+  std::vector<std::uint32_t> scratchC;
+  std::vector<Individual> moving;
+  std::vector<std::uint32_t> alleleCounts;
+};
+
+}  // namespace tamsic::sim
