@@ -1,0 +1,212 @@
+#include <gtest/gtest.h>
+
+#include "model/NewScenario.h"
+#include "model/ScenarioShape.h"
+#include "pages/AfterEdit.h"
+#include "pages/StateVariablePresets.h"
+#include "support/RecordingMessageBox.h"
+
+namespace tamsic {
+namespace {
+
+void SetCell(clsScenario& s, Field field, std::size_t row, std::size_t col, const std::string& text) {
+  Grid grid = s.GetGrid(field);
+  grid.at(row, col) = text;
+  s.SetGrid(field, std::move(grid));
+}
+
+const std::string& Cell(const clsScenario& s, Field field, std::size_t row, std::size_t col) {
+  return s.GetGrid(field).at(row, col);
+}
+
+struct CountCase {
+  const char* box;
+  const char* value;
+  const char* grid;
+  std::size_t rows;
+  std::size_t cols;
+};
+
+class CountChange : public testing::TestWithParam<CountCase> {};
+
+// The new scenario: 1 population, 1 catastrophe, ages 2 (F) and 3 (M), max age 13, 1 brood, 1 progeny.
+TEST_P(CountChange, ReshapesTheGridsThatDependOnIt) {
+  const CountCase c = GetParam();
+  const clsScenario before = NewScenarioDefaults();
+  clsScenario after = before;
+  after.SetText(*FieldByMember(c.box), c.value);
+  AfterEdit(before, after);
+  const Grid& grid = after.GetGrid(*FieldByMember(c.grid));
+  EXPECT_EQ(grid.rows(), c.rows);
+  EXPECT_EQ(grid.cols(), c.cols);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Counts, CountChange,
+    testing::Values(CountCase{"txtNumPop", "3", "gridDispRates", 4, 4},
+                    CountCase{"txtNumPop", "3", "gridReproSys", 6, 4},
+                    CountCase{"txtNumPop", "3", "gridMortFemales", 4, 7},
+                    CountCase{"txtNumPop", "", "gridRepRates1", 1, 3},
+                    CountCase{"txtNumCatast", "3", "gridCatastropheLabels", 3, 2},
+                    CountCase{"txtNumCatast", "3", "gridCatastrophes1", 2, 7},
+                    CountCase{"txtNumCatast", "0", "gridCatastrophes2", 2, 1},
+                    CountCase{"txtAgeReproF", "4", "gridMortFemales", 2, 11},
+                    CountCase{"txtAgeReproF", "4", "gridHarvestF", 2, 5},
+                    CountCase{"txtAgeReproM", "1", "gridSupplM", 2, 2},
+                    CountCase{"txtMaxAgeRepro", "20", "gridInitPopMale", 2, 21},
+                    CountCase{"txtMaxProgeny", "5", "gridRepRates3", 7, 2},
+                    CountCase{"txtMaxLitters", "3", "gridRepRates4", 4, 2},
+                    CountCase{"txtNumPopStateVars", "3", "gridPopLabels", 2, 5},
+                    CountCase{"txtNumGlobalVars", "0", "gridGlobalVars", 2, 2},
+                    CountCase{"txtNumIndividualStateParams", "2", "gridIndividualStateParams", 5, 3}));
+
+TEST(AfterEdit, KeepsValuesThatStillFitAndHeadsGridsWithTheLabels) {
+  const clsScenario before = NewScenarioDefaults();
+  clsScenario after = before;
+  after.SetText(F("txtNumPop"), "2");
+  AfterEdit(before, after);
+  EXPECT_EQ(Cell(after, F("gridMortFemales"), 1, 1), "25");
+  EXPECT_EQ(Cell(after, F("gridMortFemales"), 2, 0), "2") << "a population without a label is headed by its number";
+
+  const clsScenario named = after;
+  SetCell(after, F("gridPopLabels"), 2, 1, "North");
+  AfterEdit(named, after);
+  EXPECT_EQ(Cell(after, F("gridMortFemales"), 2, 0), "North");
+  EXPECT_EQ(Cell(after, F("gridCarryingCap1"), 0, 2), "North");
+}
+
+TEST(AfterEdit, RestoringCountsDoesNotReshape) {
+  // A count that says 3 over grids of one population is left as the file holds it until edited.
+  clsScenario s = NewScenarioDefaults();
+  s.SetText(F("txtNumPop"), "3");
+  clsScenario after = s;
+  AfterEdit(s, after);
+  EXPECT_EQ(after.GetGrid(F("gridMortFemales")).rows(), 2u);
+}
+
+TEST(AfterEdit, WritesTheBreedingFunctionOfCheckedPopulations) {
+  clsScenario before = NewScenarioDefaults();
+  clsScenario after = before;
+  for (auto [row, text] : {std::pair{1, "1"}, {2, "50"}, {3, "20"}, {4, ""}, {5, "2"}})
+    SetCell(after, F("gridReproSys"), static_cast<std::size_t>(row), 1, text);
+  AfterEdit(before, after);
+  EXPECT_EQ(Cell(after, F("gridRepRates1"), 1, 1), "=(50-((50-20)*((N/K)^2)))*(N/(0+N))");
+  EXPECT_TRUE(after.usingformula);
+
+  before = after;
+  SetCell(after, F("gridReproSys"), 1, 1, "0");
+  AfterEdit(before, after);
+  EXPECT_EQ(Cell(after, F("gridRepRates1"), 1, 1), "=(50-((50-20)*((N/K)^2)))*(N/(0+N))")
+      << "unchecking leaves the function in place";
+}
+
+TEST(AfterEdit, FillsTheLastRowOfExactDistributions) {
+  clsScenario before = NewScenarioDefaults();
+  before.SetText(F("txtMaxProgeny"), "3");
+  clsScenario after = before;
+  AfterEdit(NewScenarioDefaults(), after);
+  before = after;
+  SetCell(after, F("gridRepRates3"), 1, 1, "10");
+  SetCell(after, F("gridRepRates3"), 2, 1, "45.5");
+  SetCell(after, F("gridRepRates3"), 3, 1, "");
+  AfterEdit(before, after);
+  EXPECT_EQ(Cell(after, F("gridRepRates3"), 4, 1), "44.50");
+  EXPECT_EQ(Cell(after, F("gridRepRates4"), 1, 1), "100.00");
+}
+
+TEST(AfterEdit, BoxesThatTakeAValueOfTheirOwn) {
+  clsScenario before = NewScenarioDefaults();
+  before.SetText(F("txtGenMgtNumTimesTryFindMate"), "");
+  before.SetText(F("txtDensDispersal"), "=D");
+  clsScenario after = before;
+  after.SetTruth(F("optMPHLQ_1"), false);
+  after.SetTruth(F("optMPHLQ_2"), true);
+  after.SetCheck(F("chkGenMgtPreventMatingsF"), 1);
+  after.SetText(F("txtDensDispersal"), "");
+  AfterEdit(before, after);
+  EXPECT_EQ(after.Text(F("txtSexRatio")), "0") << "hermaphrodites have no sex ratio";
+  EXPECT_EQ(after.Text(F("txtGenMgtNumTimesTryFindMate")), "10");
+  EXPECT_EQ(after.Text(F("txtDensDispersal")), " ");
+
+  clsScenario limited = before;
+  limited.SetText(F("txtGenMgtPairingLimitation"), "0.25");
+  AfterEdit(before, limited);
+  EXPECT_EQ(limited.Text(F("txtGenMgtNumTimesTryFindMate")), "10");
+}
+
+TEST(AfterEdit, WarnsOnlyWhenARateIsAFunction) {
+  test::MessageRecorder recorder;
+  clsScenario before = NewScenarioDefaults();
+  before.SetTruth(F("optStartWith_0"), false);
+  before.SetTruth(F("optStartWith_1"), true);
+  clsScenario after = before;
+  after.SetTruth(F("optStartWith_0"), true);
+  after.SetTruth(F("optStartWith_1"), false);
+  after.SetCheck(F("chkGenMgtBreedToMaintinK"), 1);
+  WarnAboutRateFunctions(before, after, recorder.messages);
+  EXPECT_TRUE(recorder.box.shown.empty());
+
+  SetCell(after, F("gridMortMales"), 1, 1, "=20+N/K");
+  WarnAboutRateFunctions(before, after, recorder.messages);
+  ASSERT_EQ(recorder.box.shown.size(), 2u);
+  EXPECT_EQ(recorder.box.shown[0].caption, "Caution!");
+  EXPECT_EQ(recorder.box.shown[0].text,
+            "Stable age distribution may not be accurate because a function was used for a demographic rate.");
+  EXPECT_EQ(recorder.box.shown[1].caption, "Warning!");
+  EXPECT_EQ(recorder.box.shown[1].text,
+            "Tamsic may not be able to calculate how many pairs to breed, because a function is used for a "
+            "demographic rate.");
+}
+
+TEST(StateVariablePresets, NewVariablesTakeTheHighestNumbers) {
+  clsScenario s = NewScenarioDefaults();
+  s.SetText(F("txtNumIndividualStateParams"), "2");
+  RelayoutScenario(s);
+  SetCell(s, F("gridIndividualStateParams"), 1, 1, "Weight");
+  ASSERT_EQ(AddStateVariables(s, StatePreset::Outbreak), std::nullopt);
+  EXPECT_EQ(s.Text(F("txtNumIndividualStateParams")), "6");
+  const Grid& grid = s.GetGrid(F("gridIndividualStateParams"));
+  ASSERT_EQ(grid.cols(), 7u);
+  EXPECT_EQ(grid.at(1, 1), "Weight");
+  EXPECT_EQ(grid.at(0, 3), "IS3");
+  EXPECT_EQ(grid.at(1, 3), "DiseaseState");
+  EXPECT_EQ(grid.at(2, 3), "=1+(0.01>RAND)");
+  EXPECT_EQ(grid.at(3, 3), "0");
+  EXPECT_EQ(grid.at(4, 3), "=IS3");
+  EXPECT_EQ(grid.at(1, 6), "IsVaccinated");
+  EXPECT_EQ(grid.at(4, 6), "=IS6");
+
+  ASSERT_EQ(AddStateVariables(s, StatePreset::Spatial), std::nullopt);
+  const Grid& spatial = s.GetGrid(F("gridIndividualStateParams"));
+  EXPECT_EQ(spatial.at(1, 9), "SpatialIndex");
+  EXPECT_EQ(spatial.at(2, 9), "-1");
+  EXPECT_EQ(spatial.at(3, 9), "=IS9");
+  EXPECT_EQ(spatial.at(4, 9), "=IS9");
+}
+
+TEST(StateVariablePresets, RefusesToPassTen) {
+  clsScenario s = NewScenarioDefaults();
+  s.SetText(F("txtNumIndividualStateParams"), "7");
+  RelayoutScenario(s);
+  const clsScenario unchanged = s;
+  EXPECT_NE(AddStateVariables(s, StatePreset::Outbreak), std::nullopt);
+  EXPECT_EQ(s, unchanged);
+  EXPECT_EQ(AddStateVariables(s, StatePreset::Spatial), std::nullopt) << "7 + 3 is exactly the maximum";
+}
+
+TEST(NewScenario, EveryGridHasTheShapeOfItsCounts) {
+  const clsScenario s = NewScenarioDefaults();
+  clsScenario reshaped = s;
+  RelayoutScenario(reshaped);
+  EXPECT_EQ(reshaped, s);
+  EXPECT_EQ(s.Notes().rows(), 14u);
+  for (Field group : {F("optExtinctDef_0"), F("optMPHLQ_0"), F("optUseMean_0"), F("optStartWith_0"),
+                      F("GTallyOptButton_0"), F("SSOptGenMgtPairMK_0")}) {
+    int chosen = 0;
+    for (Field option : OptionGroupOf(group)) chosen += s.Truth(option) ? 1 : 0;
+    EXPECT_EQ(chosen, 1) << Describe(group).member;
+  }
+}
+
+}  // namespace
+}  // namespace tamsic
