@@ -1,11 +1,14 @@
 // tamsic-cli: works with project files without the desktop program.
 //   tamsic-cli info FILE.tpj        what the project holds
 //   tamsic-cli resave IN.tpj OUT.tpj  load a project and save it again
+//   tamsic-cli run FILE.tpj [--scenario NAME]... [--seed N] [--threads N]
+//                                   simulate scenarios (all when none is named)
 // Every failure ends with the program's message on stderr and exit code 1.
 #include <CLI/CLI.hpp>
 
 #include <iostream>
 
+#include "RunCommand.h"
 #include "StderrMessageBox.h"
 #include "app/EnglishMessages.h"
 #include "app/Errors.h"
@@ -80,8 +83,20 @@ int Run(int argc, char** argv) {
   auto* resave = app.add_subcommand("resave", "Load a project and save it again under another name");
   resave->add_option("IN", in, "Project file to read")->required();
   resave->add_option("OUT", out, "Project file to write")->required();
+  RunArguments run;
+  std::uint64_t seed = 0;
+  auto* simulate = app.add_subcommand("run", "Simulate scenarios of a project; result files go beside the project");
+  simulate->add_option("FILE", run.project, "Project file (.tpj)")->required();
+  simulate->add_option("--scenario", run.scenarios, "Scenario to run (repeatable; default: all)");
+  auto* seedOption = simulate->add_option("--seed", seed, "Random seed, for repeatable results");
+  simulate->add_option("--threads", run.threads, "Threads to use (default: every core)")->check(CLI::NonNegativeNumber);
   CLI11_PARSE(app, argc, argv);
   if (*info) return Info(file);
+  if (*simulate) {
+    if (*seedOption) run.seed = seed;
+    Session session;
+    return RunProject(run, session.messages, session.box);
+  }
   return Resave(in, out);
 }
 

@@ -1,0 +1,160 @@
+// The run goes through the same binding as the desktop program: the project
+// is saved to a work file, the project's folder becomes the current
+// directory (where the engine writes its files), and basSimulation::Run
+// calls tamsicsim in the loaded library. A second thread draws the progress
+// bar from tamsicProgress and turns Ctrl+C into tamsicCancel, so the engine
+// stops after the iterations in hand and the finished scenarios keep their files.
+#include "RunCommand.h"
+
+#include <unistd.h>
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <csignal>
+#include <filesystem>
+#include <iostream>
+#include <mutex>
+#include <thread>
+
+#include "engine/Engine.h"
+#include "engine/SpecialOptionsFlags.h"
+#include "engine/WorkFile.h"
+#include "engine/basSimulation.h"
+#include "files/ProjectFile.h"
+#include "files/ProjectOpen.h"
+#include "files/TextCodec.h"
+
+namespace tamsic {
+
+namespace {
+
+std::atomic<bool> interrupted{false};
+
+extern "C" void OnInterrupt(int) { interrupted = true; }
+
+class NoCursor : public IBusyCursor {
+ public:
+  void setBusy(bool) override {}
+};
+
+std::filesystem::path ProgramFolder() {
+  std::error_code error;
+  const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? std::filesystem::current_path() : self.parent_path();
+}
+
+// "[#########.......]  120/500 iterations, 0:42 left"
+void DrawProgress(const std::string& reply, std::chrono::steady_clock::time_point start) {
+  const auto cut = reply.find(';');
+  if (cut == std::string::npos) return;
+  const long done = std::stol(reply.substr(0, cut));
+  const long total = std::stol(reply.substr(cut + 1));
+  if (total <= 0) return;
+  const int width = 30;
+  const int filled = static_cast<int>(width * done / total);
+  const double elapsed = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  const long left = done > 0 ? static_cast<long>(elapsed * (total - done) / done) : 0;
+  std::cerr << "\r[" << std::string(static_cast<std::size_t>(filled), '#')
+            << std::string(static_cast<std::size_t>(width - filled), '.') << "] " << done << "/" << total
+            << " iterations, " << left / 60 << ":" << (left % 60 < 10 ? "0" : "") << left % 60 << " left " << std::flush;
+}
+
+// Watches the run until `finished`: progress every quarter second, cancel on Ctrl+C.
+class Watcher {
+ public:
+  explicit Watcher(Engine& engine) : engine_(engine), thread_([this] { watch(); }) {}
+  ~Watcher() {
+    {
+      std::lock_guard lock(mutex_);
+      finished_ = true;
+    }
+    wake_.notify_all();
+    thread_.join();
+    std::cerr << "\n";
+  }
+
+ private:
+  void watch() {
+    const auto start = std::chrono::steady_clock::now();
+    bool cancelled = false;
+    std::unique_lock lock(mutex_);
+    while (!wake_.wait_for(lock, std::chrono::milliseconds(250), [this] { return finished_; })) {
+      if (interrupted && !cancelled) cancelled = engine_.cancel();
+      if (const auto progress = engine_.progress()) DrawProgress(*progress, start);
+    }
+  }
+
+  Engine& engine_;
+  std::mutex mutex_;
+  std::condition_variable wake_;
+  bool finished_ = false;
+  std::thread thread_;
+};
+
+std::string ScenarioList(const ProjectDocument& project, const RunArguments& arguments, Messages& messages) {
+  std::string list;
+  if (arguments.scenarios.empty())
+    for (std::size_t n = 1; n <= project.scenarios.Count(); ++n)
+      list += project.scenarios.Item(n).Text(F("txtSceneName")) + ", ";
+  for (const std::string& name : arguments.scenarios) {
+    if (project.scenarios.Find(Utf8ToCp1252(name)) == 0) {
+      messages.show("There is no scenario \"" + name + "\" in " + arguments.project, msg::kError, MsgIcon::Critical);
+      return {};
+    }
+    list += Utf8ToCp1252(name) + ", ";
+  }
+  return list;
+}
+
+std::string EngineOptions(const ProjectDocument& project, const RunArguments& arguments) {
+  std::string options = Flags(project.specialOptions);
+  const auto append = [&](const std::string& code) { options += (options.empty() ? "" : ";") + code; };
+  if (arguments.seed) append("SEED" + std::to_string(*arguments.seed));
+  if (arguments.threads > 0) append("THREADS" + std::to_string(arguments.threads));
+  return options;
+}
+
+void PrintSummary(const std::string& reply) {
+  const auto colon = reply.find("): ");
+  if (colon == std::string::npos) {
+    std::cout << Cp1252ToUtf8(reply) << "\n";
+    return;
+  }
+  std::cout << Cp1252ToUtf8(reply.substr(0, reply.find(" (scenario;"))) << "\n";
+  std::cout << reply.substr(reply.find('(') + 1, colon - reply.find('(') - 1) << "\n";
+  std::string lines = reply.substr(colon + 3);
+  for (std::size_t at = lines.find(" | "); at != std::string::npos; at = lines.find(" | ")) lines.replace(at, 3, "\n");
+  std::cout << Cp1252ToUtf8(lines) << "\n";
+}
+
+}  // namespace
+
+int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageBox& box) {
+  const auto opened = OpenProjectFile(arguments.project, messages, false);
+  if (!opened || box.sawProblem()) return 1;
+  const std::string list = ScenarioList(opened->document, arguments, messages);
+  if (list.empty()) return 1;
+  const std::filesystem::path projectFolder = std::filesystem::absolute(arguments.project).parent_path();
+  basSimulation::RunRequest request{CreateWorkFile(ProgramFolder()), list, EngineOptions(opened->document, arguments), ""};
+  SaveProject(opened->document, request.workFile.string(), messages);
+  std::filesystem::current_path(projectFolder);
+  LibraryEngine engine;
+  NoCursor cursor;
+  std::signal(SIGINT, OnInterrupt);
+  std::optional<std::string> reply;
+  {
+    Watcher watcher(engine);
+    reply = basSimulation::Run(engine, cursor, messages, request);
+  }
+  std::signal(SIGINT, SIG_DFL);
+  if (!reply) return 1;
+  if (!reply->starts_with("Message")) {
+    std::cerr << Cp1252ToUtf8(*reply) << "\n";
+    return 1;
+  }
+  PrintSummary(*reply);
+  return 0;
+}
+
+}  // namespace tamsic
