@@ -1,0 +1,114 @@
+#include "pages/ui/GridModel.h"
+
+#include <QBrush>
+#include <QColor>
+
+#include "model/TextNumbers.h"
+#include "pages/ui/PageContext.h"
+
+namespace {
+const QColor kGrey(0xE0, 0xE0, 0xE0);
+const QColor kWhite(0xFF, 0xFF, 0xFF);
+}  // namespace
+
+GridModel::GridModel(tamsic::Field field, bool headingRow, QObject* parent)
+    : QAbstractTableModel(parent), field_(field), headingRow_(headingRow) {}
+
+void GridModel::setGrid(const tamsic::Grid& grid) {
+  if (grid.rows() == grid_.rows() && grid.cols() == grid_.cols()) {
+    grid_ = grid;
+    if (rowCount() > 0 && columnCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    emit headerDataChanged(Qt::Horizontal, 0, std::max(columnCount() - 1, 0));
+    emit headerDataChanged(Qt::Vertical, 0, std::max(rowCount() - 1, 0));
+    return;
+  }
+  beginResetModel();
+  grid_ = grid;
+  endResetModel();
+}
+
+void GridModel::setEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  beginResetModel();
+  enabled_ = enabled;
+  endResetModel();
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+  if (parent.isValid()) return 0;
+  return std::max(static_cast<int>(grid_.rows()) - firstRow(), 0);
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+  if (parent.isValid()) return 0;
+  return std::max(static_cast<int>(grid_.cols()) - 1, 0);
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const int row = gridRow(index);
+  const int col = gridCol(index);
+  const CellUse cell = use(index);
+  const QString stored = FromRecord(grid_.at(row, col));
+  switch (role) {
+    case Qt::DisplayRole:
+      if (cell == CellUse::CheckBox) return {};
+      if (cell == CellUse::Computed && computedText) return computedText(row, col);
+      return stored;
+    case Qt::EditRole: return stored;
+    case Qt::CheckStateRole:
+      if (cell != CellUse::CheckBox) return {};
+      return stored.trimmed() == "1" ? Qt::Checked : Qt::Unchecked;
+    case Qt::BackgroundRole: return QBrush(enabled_ && cell != CellUse::Computed ? kWhite : kGrey);
+    case Qt::TextAlignmentRole:
+      if (cell != CellUse::Value) return static_cast<int>(Qt::AlignCenter);
+      // Numbers line up on the right, names and functions read from the left.
+      return static_cast<int>((tamsic::ExactNumber(grid_.at(row, col)) ? Qt::AlignRight : Qt::AlignLeft) |
+                              Qt::AlignVCenter);
+    default: return {};
+  }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (role != Qt::DisplayRole) return QAbstractTableModel::headerData(section, orientation, role);
+  if (orientation == Qt::Horizontal) {
+    const auto col = static_cast<std::size_t>(section + 1);
+    if (!headingRow_ || grid_.rows() == 0 || col >= grid_.cols()) return {};
+    return FromRecord(grid_.at(0, col));
+  }
+  const auto row = static_cast<std::size_t>(section + firstRow());
+  if (row >= grid_.rows()) return {};
+  return FromRecord(grid_.at(row, 0));
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
+  if (!index.isValid() || !enabled_) return Qt::NoItemFlags;
+  switch (use(index)) {
+    case CellUse::Computed: return Qt::ItemIsEnabled;
+    case CellUse::CheckBox: return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable;
+    default: return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable;
+  }
+}
+
+bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  if (!index.isValid() || !(flags(index) & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable))) return false;
+  const int row = gridRow(index);
+  const int col = gridCol(index);
+  std::string text;
+  if (role == Qt::CheckStateRole) {
+    text = static_cast<Qt::CheckState>(value.toInt()) == Qt::Checked ? "1" : "0";
+  } else if (role == Qt::EditRole) {
+    text = ToRecord(value.toString());
+  } else {
+    return false;
+  }
+  if (text == grid_.at(row, col)) return true;
+  if (use(index) == CellUse::Value && refuses(row, col, text)) {
+    emit refused(index);
+    return false;
+  }
+  grid_.at(row, col) = text;
+  emit dataChanged(index, index);
+  emit committed(row, col);
+  return true;
+}

@@ -1,0 +1,162 @@
+#include "pages/ui/GridView.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyle>
+#include <QStyledItemDelegate>
+
+#include "pages/ui/PageContext.h"
+
+namespace {
+
+// Cells of a few fixed words are chosen from a list instead of typed.
+class ChoiceDelegate : public QStyledItemDelegate {
+ public:
+  ChoiceDelegate(GridModel* model, QObject* parent) : QStyledItemDelegate(parent), model_(model) {}
+
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const int row = model_->gridRow(index);
+    const int col = model_->gridCol(index);
+    if (model_->cellUse(row, col) != CellUse::Choice || !model_->choices)
+      return QStyledItemDelegate::createEditor(parent, option, index);
+    auto* box = new QComboBox(parent);
+    box->addItems(model_->choices(row, col));
+    return box;
+  }
+  void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+    if (auto* box = qobject_cast<QComboBox*>(editor)) {
+      box->setCurrentText(index.data(Qt::EditRole).toString());
+      return;
+    }
+    QStyledItemDelegate::setEditorData(editor, index);
+  }
+  void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override {
+    if (auto* box = qobject_cast<QComboBox*>(editor)) {
+      model->setData(index, box->currentText(), Qt::EditRole);
+      return;
+    }
+    QStyledItemDelegate::setModelData(editor, model, index);
+  }
+
+ private:
+  GridModel* model_;
+};
+
+}  // namespace
+
+GridView::GridView(const PageContext& context, tamsic::Field field, const char* name, int hint, bool headingRow,
+                   QWidget* parent)
+    : QTableView(parent), context_(context), model_(new GridModel(field, headingRow, this)) {
+  setObjectName(name);
+  setToolTip(context.text(hint));
+  setModel(model_);
+  setItemDelegate(new ChoiceDelegate(model_, this));
+  setEditTriggers(QAbstractItemView::AllEditTriggers);
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setCornerButtonEnabled(false);
+  horizontalHeader()->setDefaultAlignment(Qt::Alignment(Qt::AlignCenter | Qt::TextWordWrap));
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+  verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  // A grid is as large as its cells need and no larger; big ones scroll.
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+  hintOf = [hint](int, int) { return hint; };
+  connect(model_, &GridModel::refused, this, [this](const QModelIndex& index) {
+    refused_ = true;
+    refusedCell_ = index;
+  });
+  connect(model_, &GridModel::modelReset, this, &GridView::fitHeadings);
+  connect(model_, &GridModel::headerDataChanged, this, &GridView::fitHeadings);
+}
+
+void GridView::setGridEnabled(bool enabled) {
+  model_->setEnabled(enabled);
+  setEnabled(enabled);
+}
+
+QSize GridView::sizeHint() const {
+  constexpr int kWidest = 1200;
+  constexpr int kHighest = 600;
+  const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const int width = verticalHeader()->sizeHint().width() + horizontalHeader()->length() + 2 * frameWidth() + 2;
+  const int height = horizontalHeader()->height() + verticalHeader()->length() + 2 * frameWidth() + 2;
+  // Room for the scroll bar that a grid too large in the other direction shows.
+  return {std::min(width, kWidest) + (height > kHighest ? scrollBar : 0),
+          std::min(height, kHighest) + (width > kWidest ? scrollBar : 0)};
+}
+
+// Long headings wrap over up to three lines; columns are as wide as their
+// longest word or their values need.
+void GridView::fitHeadings() {
+  const QFontMetrics metrics = horizontalHeader()->fontMetrics();
+  int lines = 1;
+  for (int c = 0; c < model_->columnCount(); ++c) {
+    const QString heading = model_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+    int widest = metrics.horizontalAdvance("00000000");
+    for (const QString& word : heading.split(' ')) widest = std::max(widest, metrics.horizontalAdvance(word));
+    const int width = std::min(std::max({widest + 12, std::min(metrics.horizontalAdvance(heading) + 12, 130),
+                                         sizeHintForColumn(c)}), 220);
+    setColumnWidth(c, width);
+    const int needed = (metrics.horizontalAdvance(heading) + width - 13) / std::max(width - 12, 1);
+    lines = std::max(lines, std::min(needed, 3));
+  }
+  horizontalHeader()->setFixedHeight(metrics.lineSpacing() * lines + 10);
+  updateGeometry();
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  if (current.isValid()) emitHint(current);
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  emitHint(currentIndex());
+}
+
+void GridView::emitHint(const QModelIndex& index) {
+  const int hint = index.isValid() ? hintOf(model_->gridRow(index), model_->gridCol(index)) : hintOf(0, 0);
+  emit hintChanged(context_.text(hint));
+}
+
+void GridView::commitData(QWidget* editor) {
+  refused_ = false;
+  QTableView::commitData(editor);
+}
+
+// The view closes an editor right after committing it; a refused value keeps
+// its editor instead, focused, with the caret after the text.
+void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+  if (refused_) {
+    refused_ = false;
+    editor->setFocus();
+    if (auto* line = qobject_cast<QLineEdit*>(editor)) line->end(false);
+    // A click on another cell has already moved the current cell away.
+    QMetaObject::invokeMethod(
+        this, [this] { if (refusedCell_.isValid()) setCurrentIndex(refusedCell_); }, Qt::QueuedConnection);
+    return;
+  }
+  QTableView::closeEditor(editor, hint);
+  if (hint == QAbstractItemDelegate::NoHint) emitHint(currentIndex());
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+  const QModelIndex index = currentIndex();
+  const bool valueCell = index.isValid() && (model_->flags(index) & Qt::ItemIsEditable);
+  if (valueCell && event->text() == "=" && state() != EditingState && context_.openEquationEditor &&
+      context_.showEquationDialogOnEquals()) {
+    context_.openEquationEditor(index.data(Qt::EditRole).toString());
+    return;
+  }
+  // A letter picks one of the words of a choice cell, "G" for "Global".
+  if (index.isValid() && state() != EditingState && model_->choices &&
+      model_->cellUse(model_->gridRow(index), model_->gridCol(index)) == CellUse::Choice && !event->text().isEmpty()) {
+    for (const QString& word : model_->choices(model_->gridRow(index), model_->gridCol(index)))
+      if (word.startsWith(event->text(), Qt::CaseInsensitive)) {
+        model_->setData(index, word, Qt::EditRole);
+        return;
+      }
+  }
+  QTableView::keyPressEvent(event);
+}

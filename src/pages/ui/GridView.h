@@ -1,0 +1,43 @@
+#pragma once
+// The table view of one grid of an input page. A refused value keeps its
+// editor open with the caret after the text, so the user corrects what they
+// typed; "=" in a cell may open the equation editor; entering a cell tells
+// the page which hint to show.
+#include <QTableView>
+
+#include "pages/ui/GridModel.h"
+
+struct PageContext;
+
+class GridView : public QTableView {
+  Q_OBJECT
+ public:
+  GridView(const PageContext& context, tamsic::Field field, const char* name, int hint, bool headingRow = true,
+           QWidget* parent = nullptr);
+
+  GridModel* grid() const { return model_; }
+  // Enables the grid and paints it white, or disables it and paints it grey.
+  void setGridEnabled(bool enabled);
+  // The hint of a cell (grid coordinates); the grid's own hint by default.
+  std::function<int(int row, int col)> hintOf;
+  QSize sizeHint() const override;
+
+ signals:
+  void hintChanged(const QString& hint);
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void commitData(QWidget* editor) override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  void fitHeadings();
+  void emitHint(const QModelIndex& index);
+
+  const PageContext& context_;
+  GridModel* model_;
+  bool refused_ = false;
+  QPersistentModelIndex refusedCell_;
+};

@@ -1,0 +1,60 @@
+#pragma once
+// What every input page does for its project window: show a scenario record
+// in its controls, store its controls into a record, apply its enabling
+// rules, and say which hint belongs to the control or cell in focus. The base
+// keeps the page's field bindings and grids, which cover most pages whole.
+#include <QWidget>
+#include <vector>
+
+#include "model/clsScenario.h"
+#include "pages/ui/FieldBindings.h"
+#include "pages/ui/PageContext.h"
+
+class GridView;
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+class InputPage : public QWidget {
+  Q_OBJECT
+ public:
+  InputPage(const PageContext& context, int titleNumber, QWidget* parent = nullptr);
+
+  int titleNumber() const { return titleNumber_; }
+  QString title() const { return context_.text(titleNumber_); }
+
+  virtual void showRecord(const tamsic::clsScenario& record);
+  virtual void storeInto(tamsic::clsScenario& record) const;
+  // Greys out and disables what the values on the page rule out.
+  virtual void applyEnabling() {}
+
+  const std::vector<GridView*>& grids() const { return grids_; }
+  // Puts a text into one of the page's boxes as if the user had typed it.
+  void enter(QLineEdit* box, const QString& text) { bindings_.enter(box, text); }
+
+ signals:
+  // A user edit was accepted; the window records it for undo.
+  void edited();
+  void hintChanged(const QString& hint);
+
+ protected:
+  QLineEdit* textBox(const char* name, tamsic::Field field, int hint, FieldBindings::Check check = {});
+  QCheckBox* checkBox(const char* name, tamsic::Field field, int caption, int hint);
+  QRadioButton* option(const char* name, tamsic::Field field, int caption, int hint);
+  GridView* gridView(const char* name, tamsic::Field field, int hint, bool headingRow = true);
+  QLabel* label(int caption);
+  QPushButton* button(const char* name, int caption, int hint);
+
+  // A text box check that refuses numbers outside [min, max] and functions the engine refuses.
+  FieldBindings::Check limits(double min, double max, const QString& what);
+
+  const PageContext& context_;
+  bool updating_ = false;
+
+ private:
+  int titleNumber_;
+  FieldBindings bindings_;
+  std::vector<GridView*> grids_;
+};

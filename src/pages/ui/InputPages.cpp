@@ -1,0 +1,192 @@
+#include "pages/ui/InputPages.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QUndoStack>
+#include <QVBoxLayout>
+
+#include "model/ScenarioManagement.h"
+#include "model/ScenarioShape.h"
+#include "pages/AfterEdit.h"
+#include "pages/InputHelpers.h"
+#include "pages/ui/CarryingCapacityPage.h"
+#include "pages/ui/CatastrophesPage.h"
+#include "pages/ui/CopyInputValues.h"
+#include "pages/ui/DispersalPage.h"
+#include "pages/ui/GeneticsPage.h"
+#include "pages/ui/GridView.h"
+#include "pages/ui/InitialPopulationPage.h"
+#include "pages/ui/LabelsPage.h"
+#include "pages/ui/MonopolizationPage.h"
+#include "pages/ui/MortalityPage.h"
+#include "pages/ui/RecordEditCommand.h"
+#include "pages/ui/ReproRatesPage.h"
+#include "pages/ui/ReproSystemPage.h"
+#include "pages/ui/ScenarioSettingsPage.h"
+#include "pages/ui/SchedulePage.h"
+#include "pages/ui/SpeciesPage.h"
+#include "pages/ui/UpdateGuard.h"
+
+namespace {
+// The hints of the page links, in the order of the pages.
+constexpr std::array<int, InputPages::kPageCount> kLinkHints = {1301, 1302, 1346, 1303, 1304, 1305, 1306,
+                                                                1307, 1308, 1309, 1310, 1311, 1312, 1345};
+}  // namespace
+
+InputPages::InputPages(const PageContext& context, tamsic::ScenarioCollection& scenarios, QUndoStack& undo,
+                       QWidget* parent)
+    : QWidget(parent), context_(context), scenarios_(scenarios), undo_(undo) {
+  createPages();
+  layOut();
+  wire();
+  if (scenarios_.Count() > 0) showScenario(1);
+}
+
+void InputPages::createPages() {
+  settings_ = new ScenarioSettingsPage(context_);
+  settings_->nameProblem = [this](const std::string& name) {
+    return tamsic::ScenarioNameProblem(scenarios_, current_, name);
+  };
+  pages_ = {settings_,
+            new SpeciesPage(context_),
+            new LabelsPage(context_),
+            new DispersalPage(context_),
+            new ReproSystemPage(context_),
+            new ReproRatesPage(context_),
+            new MortalityPage(context_),
+            new CatastrophesPage(context_),
+            new MonopolizationPage(context_),
+            new InitialPopulationPage(context_),
+            new CarryingCapacityPage(context_),
+            new HarvestPage(context_),
+            new SupplementPage(context_),
+            new GeneticsPage(context_)};
+}
+
+void InputPages::layOut() {
+  title_ = new QLabel(this);
+  QFont bold = title_->font();
+  bold.setBold(true);
+  bold.setPointSizeF(bold.pointSizeF() * 1.2);
+  title_->setFont(bold);
+  stack_ = new QStackedWidget(this);
+  for (InputPage* page : pages_) stack_->addWidget(page);
+  copyBar_ = new CopyInputValuesBar(context_, this);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(title_);
+  column->addWidget(stack_, 1);
+  column->addWidget(copyBar_);
+  showPage(0);
+}
+
+void InputPages::wire() {
+  for (int index = 0; index < kPageCount; ++index) {
+    connect(page(index), &InputPage::edited, this, [this, index] { commit(index); });
+    connect(page(index), &InputPage::hintChanged, this, &InputPages::hintChanged);
+  }
+  connect(copyBar_, &CopyInputValuesBar::copyRequested, this, &InputPages::copyInputValues);
+  // Text boxes, check boxes and buttons show their own hint; grid cells tell theirs through their page.
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (now && isAncestorOf(now) && !now->toolTip().isEmpty() && !qobject_cast<GridView*>(now))
+      emit hintChanged(now->toolTip());
+  });
+  QAction* undo = undo_.createUndoAction(this);
+  undo->setShortcut(QKeySequence::Undo);
+  QAction* redo = undo_.createRedoAction(this);
+  redo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y));
+  for (QAction* action : {undo, redo}) {
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(action);
+  }
+}
+
+QString InputPages::pageTitle(int index) const { return page(index)->title(); }
+
+QString InputPages::linkHint(int index) const { return context_.text(kLinkHints[static_cast<std::size_t>(index)]); }
+
+bool InputPages::pageAvailable(int index) const {
+  if (index == Dispersal) return populations_ > 1;
+  if (index == Catastrophes) return catastrophes_ > 0;
+  return true;
+}
+
+int InputPages::currentPage() const { return stack_->currentIndex(); }
+
+void InputPages::showPage(int index) {
+  stack_->setCurrentIndex(index);
+  copyBar_->setVisible(!tamsic::PopulationGridsOfPage(index).empty());
+  title_->setText(pageTitle(index));
+}
+
+void InputPages::showScenario(std::size_t number) {
+  current_ = number;
+  restorePages(scenarios_.Item(number));
+  emit scenarioShown(number);
+}
+
+void InputPages::reload() {
+  current_ = std::clamp<std::size_t>(current_, 1, scenarios_.Count());
+  showScenario(current_);
+}
+
+void InputPages::storePages(tamsic::clsScenario& record) const {
+  for (InputPage* page : pages_) page->storeInto(record);
+  record.usingformula = tamsic::AnyInputIsFunction(record);
+}
+
+void InputPages::restorePages(const tamsic::clsScenario& record) {
+  UpdateGuard guard(updating_);
+  for (InputPage* page : pages_) page->showRecord(record);
+  applyCrossPageRules(record);
+}
+
+void InputPages::applyCrossPageRules(const tamsic::clsScenario& record) {
+  const tamsic::LayoutCounts counts = tamsic::CountsOf(record);
+  populations_ = static_cast<int>(counts.populations.size());
+  catastrophes_ = counts.catastrophes;
+  static_cast<SpeciesPage*>(page(Species))->setPopulationCount(populations_);
+  QStringList labels;
+  for (const std::string& label : counts.populations) labels << FromRecord(label);
+  copyBar_->setPopulations(labels);
+  copyBar_->setEnabled(populations_ > 1);
+  emit availabilityChanged();
+}
+
+void InputPages::commit(int page) {
+  if (updating_) return;
+  const tamsic::clsScenario before = scenarios_.Item(current_);
+  tamsic::clsScenario stored = before;
+  storePages(stored);
+  tamsic::clsScenario after = stored;
+  tamsic::AfterEdit(before, after);
+  if (after == before) return;
+  tamsic::WarnAboutRateFunctions(before, after, context_.messages);
+  scenarios_.Item(current_) = after;
+  if (after != stored) restorePages(after);
+  else applyCrossPageRules(after);
+  undo_.push(new RecordEditCommand(*this, current_, page, before, after));
+  if (before.Text(tamsic::F("txtSceneName")) != after.Text(tamsic::F("txtSceneName"))) emit scenarioNamesChanged();
+}
+
+void InputPages::copyInputValues(int from, bool allSections) {
+  tamsic::clsScenario before = scenarios_.Item(current_);
+  tamsic::clsScenario after = before;
+  const auto grids = allSections ? tamsic::PopulationGrids() : tamsic::PopulationGridsOfPage(currentPage());
+  tamsic::CopyInputValues(after, static_cast<std::size_t>(from), grids);
+  tamsic::AfterEdit(before, after);
+  if (after == before) return;
+  scenarios_.Item(current_) = after;
+  restorePages(after);
+  undo_.push(new RecordEditCommand(*this, current_, currentPage(), std::move(before), after));
+}
+
+void InputPages::putBack(std::size_t scenario, int page, const tamsic::clsScenario& record) {
+  scenarios_.Item(scenario) = record;
+  current_ = scenario;
+  restorePages(record);
+  showPage(page);
+  emit scenarioShown(scenario);
+  emit scenarioNamesChanged();
+}

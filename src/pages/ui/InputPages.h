@@ -1,0 +1,81 @@
+#pragma once
+// The fourteen input pages of a project window and the scenario they show.
+// Every accepted edit is stored straight into the scenario's record together
+// with what follows from it (AfterEdit) and pushed on the window's undo stack
+// as the record before and after; moving to another scenario therefore only
+// has to show the next record. The page links and the selector belong to the
+// window; this widget says which pages are available.
+#include <QWidget>
+#include <array>
+#include <cstddef>
+
+#include "model/ScenarioCollection.h"
+#include "pages/ui/PageContext.h"
+
+class CopyInputValuesBar;
+class InputPage;
+class QLabel;
+class QStackedWidget;
+class QUndoStack;
+class ScenarioSettingsPage;
+
+class InputPages : public QWidget {
+  Q_OBJECT
+ public:
+  static constexpr int kPageCount = 14;
+  enum Page { Settings, Species, Labels, Dispersal, ReproSystem, ReproRates, Mortality, Catastrophes,
+              Monopolization, InitialPopulation, CarryingCapacity, Harvest, Supplementation, Genetics };
+
+  InputPages(const PageContext& context, tamsic::ScenarioCollection& scenarios, QUndoStack& undo,
+             QWidget* parent = nullptr);
+
+  InputPage* page(int index) const { return pages_[static_cast<std::size_t>(index)]; }
+  QString pageTitle(int index) const;
+  // The hint of a page link.
+  QString linkHint(int index) const;
+  // Dispersal needs two populations, the catastrophes page one type of catastrophe.
+  bool pageAvailable(int index) const;
+  int currentPage() const;
+  void showPage(int index);
+
+  std::size_t currentScenario() const { return current_; }
+  // Shows another scenario; the one shown is already in its record.
+  void showScenario(std::size_t number);
+  // Shows the current scenario again after the list changed under it.
+  void reload();
+
+  // Record <-> pages, every field.
+  void storePages(tamsic::clsScenario& record) const;
+  void restorePages(const tamsic::clsScenario& record);
+
+  // Used by undo and redo: puts a record back and shows where it changed.
+  void putBack(std::size_t scenario, int page, const tamsic::clsScenario& record);
+
+ signals:
+  void hintChanged(const QString& hint);
+  void availabilityChanged();
+  void scenarioShown(std::size_t number);
+  // A scenario was renamed.
+  void scenarioNamesChanged();
+
+ private:
+  void createPages();
+  void layOut();
+  void wire();
+  void commit(int page);
+  void copyInputValues(int from, bool allSections);
+  void applyCrossPageRules(const tamsic::clsScenario& record);
+
+  const PageContext& context_;
+  tamsic::ScenarioCollection& scenarios_;
+  QUndoStack& undo_;
+  std::size_t current_ = 1;
+  std::array<InputPage*, kPageCount> pages_{};
+  ScenarioSettingsPage* settings_ = nullptr;
+  QStackedWidget* stack_ = nullptr;
+  QLabel* title_ = nullptr;
+  CopyInputValuesBar* copyBar_ = nullptr;
+  int populations_ = 0;
+  int catastrophes_ = 0;
+  bool updating_ = false;
+};

@@ -1,0 +1,90 @@
+#include "pages/ui/LabelsPage.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "model/ScenarioShape.h"
+#include "model/TextNumbers.h"
+#include "pages/StateVariablePresets.h"
+#include "pages/ui/GridView.h"
+
+using tamsic::F;
+
+LabelsPage::LabelsPage(const PageContext& context, QWidget* parent) : InputPage(context, 200, parent) {
+  const double most = tamsic::kMaxStateVars;
+  gridPopLabels = gridView("gridPopLabels", F("gridPopLabels"), 201);
+  gridPopLabels->hintOf = [](int, int col) { return col == 1 ? 201 : 202; };
+  txtNumPopStateVars = textBox("txtNumPopStateVars", F("txtNumPopStateVars"), 203, limits(0, most, context.text(205)));
+  txtNumGlobalVars = textBox("txtNumGlobalVars", F("txtNumGlobalVars"), 233, limits(0, most, context.text(235)));
+  gridGlobalVars = gridView("gridGlobalVars", F("gridGlobalVars"), 234);
+  txtNumIndividualStateParams = textBox("txtNumIndividualStateParams", F("txtNumIndividualStateParams"), 237,
+                                        limits(0, most, context.text(244)));
+  gridIndividualStateParams = gridView("gridIndividualStateParams", F("gridIndividualStateParams"), 238);
+  gridIndividualStateParams->hintOf = [](int row, int) { return row >= 1 && row <= 4 ? 237 + row : 238; };
+  OutbreakISVars = button("OutbreakISVars", 250, 242);
+  SpatialISVars = button("SpatialISVars", 251, 243);
+  layOut();
+  wire();
+}
+
+void LabelsPage::layOut() {
+  auto* labels = new QGroupBox(context_.text(204), this);
+  auto* labelsLayout = new QVBoxLayout(labels);
+  auto* popCount = new QFormLayout;
+  popCount->addRow(label(205), txtNumPopStateVars);
+  labelsLayout->addLayout(popCount);
+  labelsLayout->addWidget(gridPopLabels);
+
+  auto* globals = new QGroupBox(context_.text(236), this);
+  auto* globalsLayout = new QVBoxLayout(globals);
+  auto* globalCount = new QFormLayout;
+  globalCount->addRow(label(235), txtNumGlobalVars);
+  globalsLayout->addLayout(globalCount);
+  globalsLayout->addWidget(gridGlobalVars);
+
+  auto* individuals = new QGroupBox(context_.text(245), this);
+  auto* individualsLayout = new QVBoxLayout(individuals);
+  auto* individualCount = new QFormLayout;
+  individualCount->addRow(label(244), txtNumIndividualStateParams);
+  auto* presets = new QHBoxLayout;
+  presets->addWidget(OutbreakISVars);
+  presets->addWidget(SpatialISVars);
+  presets->addStretch();
+  individualsLayout->addLayout(individualCount);
+  individualsLayout->addWidget(gridIndividualStateParams);
+  individualsLayout->addLayout(presets);
+
+  auto* page = new QVBoxLayout(this);
+  page->addWidget(labels);
+  page->addWidget(globals);
+  page->addWidget(individuals);
+  page->addStretch();
+}
+
+void LabelsPage::wire() {
+  connect(OutbreakISVars, &QPushButton::clicked, this, [this] { addPreset(0); });
+  connect(SpatialISVars, &QPushButton::clicked, this, [this] { addPreset(1); });
+}
+
+void LabelsPage::addPreset(int preset) {
+  tamsic::clsScenario record;
+  storeInto(record);
+  const auto problem =
+      tamsic::AddStateVariables(record, preset == 0 ? tamsic::StatePreset::Outbreak : tamsic::StatePreset::Spatial);
+  if (problem) {
+    context_.messages.show(*problem, tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation);
+    return;
+  }
+  showRecord(record);
+  emit edited();
+}
+
+void LabelsPage::applyEnabling() {
+  gridGlobalVars->setGridEnabled(tamsic::LeadingInt(ToRecord(txtNumGlobalVars->text())) > 0);
+  gridIndividualStateParams->setGridEnabled(tamsic::LeadingInt(ToRecord(txtNumIndividualStateParams->text())) > 0);
+}

@@ -1,0 +1,27 @@
+#pragma once
+// What every input page needs from its project window: the texts, the message
+// box, the engine for formula tests, and the user's setting for "=" in a cell.
+#include <QString>
+#include <functional>
+#include <string>
+
+#include "app/Messages.h"
+#include "engine/Engine.h"
+
+struct PageContext {
+  const tamsic::IStringTable& strings;
+  tamsic::Messages& messages;
+  tamsic::Engine& engine;
+  // Whether "=" typed in a cell opens the equation editor; the editor itself
+  // answers through openEquationEditor, which is empty until there is one.
+  std::function<bool()> showEquationDialogOnEquals = [] { return false; };
+  std::function<void(const QString& cellText)> openEquationEditor;
+  // Shows a function and its graph; empty until the preview window exists.
+  std::function<void(const QString& function)> openFunctionPreview;
+
+  QString text(int number) const { return QString::fromStdString(strings.text(number)); }
+};
+
+// Record texts are Windows-1252 bytes as project files hold them.
+QString FromRecord(const std::string& text);
+std::string ToRecord(const QString& text);

@@ -1,0 +1,62 @@
+#include "pages/ui/SpeciesPage.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include "model/ScenarioShape.h"
+
+using tamsic::F;
+
+SpeciesPage::SpeciesPage(const PageContext& context, QWidget* parent) : InputPage(context, 100, parent) {
+  chkDepress = checkBox("chkDepress", F("chkDepress"), 107, 101);
+  txtLethalEquiv = textBox("txtLethalEquiv", F("txtLethalEquiv"), 102, limits(0, 100, context.text(108)));
+  txtPercentLethal = textBox("txtPercentLethal", F("txtPercentLethal"), 103, limits(0, 100, context.text(109)));
+  chkEVConcord = checkBox("chkEVConcord", F("chkEVConcord"), 110, 104);
+  txtEV = textBox("txtEV", F("txtEV"), 105, limits(-1, 1, context.text(111)));
+  txtNumCatast = textBox("txtNumCatast", F("txtNumCatast"), 106,
+                         limits(0, tamsic::kMaxCatastrophes, context.text(113)));
+  layOut();
+  wire();
+}
+
+void SpeciesPage::layOut() {
+  auto* inbreeding = new QGroupBox(context_.text(107), this);
+  auto* inner = new QFormLayout(inbreeding);
+  lethalLabel_ = label(108);
+  percentLabel_ = label(109);
+  inner->addRow(chkDepress);
+  inner->addRow(lethalLabel_, txtLethalEquiv);
+  inner->addRow(percentLabel_, txtPercentLethal);
+
+  auto* variation = new QGroupBox(context_.text(114), this);
+  auto* ev = new QFormLayout(variation);
+  ev->addRow(chkEVConcord);
+  ev->addRow(label(111), txtEV);
+
+  auto* catastrophes = new QFormLayout;
+  catastrophes->addRow(label(113), txtNumCatast);
+
+  auto* page = new QVBoxLayout(this);
+  page->addWidget(inbreeding);
+  page->addWidget(variation);
+  page->addLayout(catastrophes);
+  page->addStretch();
+}
+
+void SpeciesPage::wire() { connect(chkDepress, &QCheckBox::toggled, this, &SpeciesPage::applyEnabling); }
+
+void SpeciesPage::setPopulationCount(int count) {
+  populations_ = count;
+  applyEnabling();
+}
+
+void SpeciesPage::applyEnabling() {
+  const bool depression = chkDepress->isChecked();
+  for (QWidget* w : std::initializer_list<QWidget*>{txtLethalEquiv, txtPercentLethal, lethalLabel_, percentLabel_})
+    w->setEnabled(depression);
+  txtEV->setEnabled(populations_ > 1);
+}
