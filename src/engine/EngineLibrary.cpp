@@ -70,8 +70,19 @@ std::filesystem::path ExecutableFolder() {
   return error ? std::filesystem::path() : executable.parent_path();
 }
 
-const LoadedEngine& EngineLibrary::get() {
+namespace {
+
+std::optional<LoadedEngine>& Loaded() {
   static std::optional<LoadedEngine> loaded;
+  return loaded;
+}
+
+}  // namespace
+
+bool EngineLibrary::loaded() { return Loaded().has_value(); }
+
+const LoadedEngine& EngineLibrary::get() {
+  std::optional<LoadedEngine>& loaded = Loaded();
   if (!loaded) {
     std::vector<std::string> candidates;
     const auto folder = ExecutableFolder();

@@ -57,6 +57,8 @@ class EngineLibrary {
   // The process's engine, loaded on the first call; a failed load is tried
   // again on the next call. Throws EngineUnavailable.
   static const LoadedEngine& get();
+  // Whether an earlier call has loaded the library; never loads it.
+  static bool loaded();
 };
 
 }  // namespace tamsic
