@@ -8,6 +8,7 @@
 #include "app/StringTable.h"
 #include "files/ProjectFile.h"
 #include "files/ProjectSaveFlow.h"
+#include "model/NewProject.h"
 #include "support/TestFolder.h"
 
 namespace tamsic {
@@ -150,6 +151,17 @@ TEST_F(SaveFlow, ChangedProjectAsksBeforeClosing) {
   EXPECT_TRUE(MayCloseProject(state, messages, dialog));
   box.answers = {MsgAnswer::Yes};
   EXPECT_FALSE(MayCloseProject(state, messages, dialog)) << "the save dialog was cancelled";
+}
+
+TEST_F(SaveFlow, NewProjectIsTitledByItsNameAndSurvivesItsFirstSave) {
+  state.document = NewProject("Forêt", "Ann");
+  EXPECT_EQ(state.document.title, "For\xEAt");
+  EXPECT_EQ(state.document.users, std::vector<std::string>{"Ann"});
+  ASSERT_EQ(state.document.scenarios.Count(), 1u);
+
+  dialog.answer = folder.file("Forêt.tpj");
+  ASSERT_EQ(FunctionSaveAs(state, messages, dialog), SaveResult::Saved);
+  EXPECT_EQ(LoadProject(state.FullPath(), "9.99", messages), state.document);
 }
 
 TEST(ProjectCaption, TitleOrUnnamedThenPathOrNotSaved) {
