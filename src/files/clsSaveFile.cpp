@@ -216,11 +216,12 @@ void clsSaveFile::FillArray(std::string_view text, Grid& target) {
     return;
   }
   const auto rows = Split(text, ':');
-  const std::size_t columns = Split(rows.front(), ';').size();
+  auto cellCount = [](std::string_view row) { return std::count(row.begin(), row.end(), ';') + 1; };
+  const auto columns = static_cast<std::size_t>(cellCount(rows.front()));
   // Rows up to the first ragged one are kept. Counting them first keeps a
   // damaged file from sizing a table far larger than the text it came from.
   std::size_t whole = 0;
-  while (whole < rows.size() && Split(rows[whole], ';').size() == columns) ++whole;
+  while (whole < rows.size() && static_cast<std::size_t>(cellCount(rows[whole])) == columns) ++whole;
   target = Grid(whole, columns);
   for (std::size_t r = 0; r < whole; ++r) {
     const auto cells = Split(rows[r], ';');
@@ -342,6 +343,7 @@ std::string clsSaveFile::EncodeCell(std::string_view text) {
 
 std::string clsSaveFile::DecodeCell(std::string_view text) {
   std::string out(text);
+  if (out.find_first_of("`\xFC\xFD") == std::string::npos) return out;
   for (char& c : out) {
     if (c == kOldColon || c == kBackQuote) c = ':';
     else if (c == kOldSemicolon) c = ';';
