@@ -1,0 +1,9 @@
+#pragma once
+// What the new-project dialog asks for.
+#include <QString>
+
+struct NewProjectRequest {
+  QString folder;
+  QString name;
+  QString user;
+};

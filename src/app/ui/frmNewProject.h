@@ -1,0 +1,27 @@
+#pragma once
+// The new-project dialog: the folder, the project's name and the user's name.
+#include <QDialog>
+
+#include "app/ui/NewProjectRequest.h"
+
+struct Program;
+class QLineEdit;
+
+class frmNewProject : public QDialog {
+  Q_OBJECT
+ public:
+  explicit frmNewProject(Program& program, QWidget* parent = nullptr);
+
+  NewProjectRequest request() const;
+  // Refuses an empty name or folder with the reason.
+  void accept() override;
+
+ private:
+  void browse();
+  QString text(int number) const;
+
+  Program& program_;
+  QLineEdit* txtDir_ = nullptr;
+  QLineEdit* txtName_ = nullptr;
+  QLineEdit* txtUser_ = nullptr;
+};

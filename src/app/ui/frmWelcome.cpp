@@ -1,0 +1,209 @@
+#include "app/ui/frmWelcome.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStorageInfo>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "app/ui/LanguageLocale.h"
+#include "app/ui/Program.h"
+#include "app/ui/ThemeIcon.h"
+#include "files/ProjectFile.h"
+#include "files/TextCodec.h"
+
+namespace {
+
+enum Tab { kRecentTab, kNewTab, kOpenTab };
+enum RecentColumn { kFile, kPath, kModified, kTitle, kNotes, kUsers, kRecentColumns };
+constexpr int kWidestColumn = 240;
+
+// A damaged recent project must not interrupt the welcome with messages: its
+// row simply shows no title.
+class SilentBox : public tamsic::IMessageBox {
+ public:
+  tamsic::MsgAnswer show(const tamsic::MessageBoxRequest&) override { return tamsic::MsgAnswer::Ok; }
+};
+
+QString FromFile(const std::string& text) {
+  return QString::fromStdString(tamsic::Cp1252ToUtf8(text));
+}
+
+}  // namespace
+
+frmWelcome::frmWelcome(Program& program, QWidget* parent) : QDialog(parent), program_(program) {
+  setObjectName("frmWelcome");
+  setWindowTitle(text(8700));
+  tabs_ = new QTabWidget(this);
+  tabs_->addTab(buildRecentTab(), text(8701));
+  tabs_->addTab(buildNewTab(), text(8702));
+  tabs_->addTab(buildOpenTab(), text(8703));
+  chkShowWelcome_ = new QCheckBox(text(8704), this);
+  chkShowWelcome_->setObjectName("chkShowWelcome");
+  chkShowWelcome_->setChecked(program_.settings.showWelcome != 0);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  buttons->button(QDialogButtonBox::Ok)->setText(text(8715));
+  buttons->button(QDialogButtonBox::Cancel)->setText(text(8716));
+  connect(buttons, &QDialogButtonBox::accepted, this, &frmWelcome::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &frmWelcome::reject);
+  auto* bottom = new QHBoxLayout;
+  bottom->addWidget(chkShowWelcome_, 1);
+  bottom->addWidget(buttons);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(tabs_);
+  layout->addLayout(bottom);
+  fillRecent();
+  fillDrives();
+  wireSignals();
+  showFolder(QDir::currentPath());
+  resize(860, 440);
+}
+
+QWidget* frmWelcome::buildRecentTab() {
+  lstRecent_ = new QTreeWidget(this);
+  lstRecent_->setObjectName("lstRecent");
+  lstRecent_->setRootIsDecorated(false);
+  lstRecent_->setColumnCount(kRecentColumns);
+  lstRecent_->setHeaderLabels({text(8709), text(8710), text(8711), text(8712), text(8713), text(8714)});
+  return lstRecent_;
+}
+
+QWidget* frmWelcome::buildNewTab() {
+  lstNew_ = new QListWidget(this);
+  lstNew_->setObjectName("lstNew");
+  lstNew_->setViewMode(QListView::IconMode);
+  lstNew_->setIconSize(QSize(64, 64));
+  lstNew_->setMovement(QListView::Static);
+  lstNew_->addItem(new QListWidgetItem(ThemeIcon("document-new", *style(), QStyle::SP_FileIcon), text(8706)));
+  lstNew_->setCurrentRow(0);
+  return lstNew_;
+}
+
+QWidget* frmWelcome::buildOpenTab() {
+  auto* page = new QWidget(this);
+  cboDrive_ = new QComboBox(page);
+  cboDrive_->setObjectName("cboDrive");
+  lblFolder_ = new QLabel(page);
+  lblFolder_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  lstFolders_ = new QListWidget(page);
+  lstFolders_->setObjectName("lstFolders");
+  lstFiles_ = new QListWidget(page);
+  lstFiles_->setObjectName("lstFiles");
+  auto* lists = new QHBoxLayout;
+  auto* folders = new QVBoxLayout;
+  folders->addWidget(new QLabel(text(8718), page));
+  folders->addWidget(lblFolder_);
+  folders->addWidget(lstFolders_);
+  auto* files = new QVBoxLayout;
+  files->addWidget(new QLabel(text(8719), page));
+  files->addWidget(lstFiles_);
+  lists->addLayout(folders);
+  lists->addLayout(files);
+  auto* layout = new QFormLayout(page);
+  layout->addRow(text(8717), cboDrive_);
+  layout->addRow(lists);
+  return page;
+}
+
+void frmWelcome::wireSignals() {
+  connect(lstRecent_, &QTreeWidget::itemDoubleClicked, this, &frmWelcome::accept);
+  connect(lstNew_, &QListWidget::itemDoubleClicked, this, &frmWelcome::accept);
+  connect(lstFiles_, &QListWidget::itemDoubleClicked, this, &frmWelcome::accept);
+  connect(cboDrive_, &QComboBox::currentTextChanged, this, &frmWelcome::showFolder);
+  connect(lstFolders_, &QListWidget::itemDoubleClicked, this,
+          [this](QListWidgetItem* item) { showFolder(QDir(folder_).absoluteFilePath(item->text())); });
+}
+
+void frmWelcome::fillRecent() {
+  SilentBox silent;
+  tamsic::Messages quiet(silent, program_.strings);
+  for (const tamsic::RecentProject& entry : program_.recent.Entries()) {
+    const QFileInfo file(QString::fromStdString(entry.name));
+    auto* item = new QTreeWidgetItem(lstRecent_);
+    item->setText(kFile, file.fileName());
+    item->setText(kPath, file.absolutePath());
+    item->setData(kFile, Qt::UserRole, file.absoluteFilePath());
+    item->setText(kTitle, QString::fromStdString(entry.title));
+    if (!file.exists()) {
+      item->setText(kModified, text(8705));
+      item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
+      continue;
+    }
+    item->setText(kModified, LanguageLocale(program_.settings.language).toString(file.lastModified(), QLocale::ShortFormat));
+    try {
+      const tamsic::ProjectHeader header = tamsic::GetTamsicHeader(entry.name, quiet);
+      item->setText(kTitle, FromFile(header.title));
+      item->setText(kNotes, FromFile(header.notes));
+      item->setToolTip(kNotes, FromFile(header.notes));
+      QStringList users;
+      for (const std::string& user : header.users) users << FromFile(user);
+      item->setText(kUsers, users.join(", "));
+    } catch (const std::exception&) {
+      // The list still offers the file; opening it will tell what is wrong.
+    }
+  }
+  // Notes can be paragraphs: their column is kept narrow and the tooltip shows them whole.
+  for (int column = 0; column < kRecentColumns; ++column) {
+    lstRecent_->resizeColumnToContents(column);
+    lstRecent_->setColumnWidth(column, std::min(lstRecent_->columnWidth(column), kWidestColumn));
+  }
+  if (lstRecent_->topLevelItemCount() > 0) lstRecent_->setCurrentItem(lstRecent_->topLevelItem(0));
+}
+
+void frmWelcome::fillDrives() {
+  QStringList roots{QDir::homePath(), QDir::rootPath()};
+  for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
+    if (volume.isValid() && volume.isReady() && !roots.contains(volume.rootPath()))
+      roots << volume.rootPath();
+  cboDrive_->addItems(roots);
+}
+
+void frmWelcome::showFolder(const QString& folder) {
+  const QDir dir(folder);
+  folder_ = dir.absolutePath();
+  lblFolder_->setText(folder_);
+  lstFolders_->clear();
+  if (!dir.isRoot()) lstFolders_->addItem("..");
+  lstFolders_->addItems(dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase));
+  lstFiles_->clear();
+  lstFiles_->addItems(dir.entryList({"*.tpj"}, QDir::Files, QDir::Name | QDir::IgnoreCase));
+}
+
+void frmWelcome::accept() {
+  switch (tabs_->currentIndex()) {
+    case kRecentTab: {
+      const QTreeWidgetItem* item = lstRecent_->currentItem();
+      if (item == nullptr || !(item->flags() & Qt::ItemIsEnabled)) return;
+      path_ = item->data(kFile, Qt::UserRole).toString();
+      break;
+    }
+    case kNewTab:
+      blank_ = true;
+      break;
+    default: {
+      const QListWidgetItem* item = lstFiles_->currentItem();
+      if (item == nullptr) return;
+      path_ = QDir(folder_).absoluteFilePath(item->text());
+    }
+  }
+  QDialog::accept();
+}
+
+void frmWelcome::done(int result) {
+  program_.settings.showWelcome = chkShowWelcome_->isChecked() ? 1 : 0;
+  tamsic::SaveSettings(program_.store, program_.settings);
+  QDialog::done(result);
+}
+
+QString frmWelcome::text(int number) const {
+  return QString::fromStdString(program_.strings.text(number));
+}

@@ -1,0 +1,352 @@
+#include "app/ui/mdiMain.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include "app/Errors.h"
+#include "app/ui/FileFilter.h"
+#include "app/ui/Program.h"
+#include "app/ui/ThemeIcon.h"
+#include "app/ui/WindowArrangement.h"
+#include "app/ui/frmAbout.h"
+#include "app/ui/frmNewProject.h"
+#include "app/ui/frmSettings.h"
+#include "app/ui/frmWelcome.h"
+#include "files/AtomicFile.h"
+#include "files/ProjectOpen.h"
+#include "files/TextCodec.h"
+#include "model/NewProject.h"
+#include "pages/ui/frmProject.h"
+
+namespace {
+
+// Language menu items: name, caption, language code.
+struct LanguageItem {
+  const char* name;
+  int caption;
+  int code;
+};
+constexpr LanguageItem kLanguages[] = {
+    {"mniEnglish", 9014, 1}, {"mniSpanish", 9015, 2}, {"mniPortuguese", 9016, 0}, {"mniGerman", 9017, 3}};
+
+}  // namespace
+
+mdiMain::mdiMain(Program& program, QWidget* parent) : QMainWindow(parent), program_(program) {
+  setObjectName("mdiMain");
+  setWindowTitle(text(9001));
+  mdiArea_ = new QMdiArea(this);
+  mdiArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  mdiArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  setCentralWidget(mdiArea_);
+  buildMenus();
+  buildToolbar();
+  wireSignals();
+  rebuildRecentMenu();
+  checkCurrentLanguage();
+  updateCommands();
+  const QString point = QLocale().decimalPoint();
+  program_.decimalSeparator = point == QStringLiteral(",") ? ',' : '.';
+  resize(1100, 720);
+}
+
+QAction* mdiMain::action(const char* name, int caption) {
+  auto* item = new QAction(text(caption), this);
+  item->setObjectName(name);
+  return item;
+}
+
+void mdiMain::buildMenus() {
+  buildFileMenu();
+  buildEditMenu();
+  buildProjectMenu();
+  buildWindowMenu();
+  buildHelpMenu();
+}
+
+void mdiMain::buildFileMenu() {
+  mniNew_ = action("mniNew", 9003);
+  mniNew_->setShortcut(QKeySequence::New);
+  mniOpen_ = action("mniOpen", 9004);
+  mniOpen_->setShortcut(QKeySequence::Open);
+  mniCloseProject_ = action("mniCloseProject", 9005);
+  mniSave_ = action("mniSave", 9006);
+  mniSave_->setShortcut(QKeySequence::Save);
+  mniSaveAs_ = action("mniSaveAs", 9007);
+  mniSaveAs_->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+  mniProperties_ = action("mniProperties", 9008);
+  mniExit_ = action("mniExit", 9010);
+  mniExit_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+
+  mnuFile_ = menuBar()->addMenu(text(9002));
+  mnuFile_->addActions({mniNew_, mniOpen_, mniCloseProject_});
+  mnuFile_->addSeparator();
+  mnuFile_->addActions({mniSave_, mniSaveAs_});
+  mnuFile_->addSeparator();
+  mnuFile_->addAction(mniProperties_);
+  QMenu* mniSetLanguage = mnuFile_->addMenu(text(9013));
+  mniSetLanguage->setObjectName("mniSetLanguage");
+  languages_ = new QActionGroup(this);
+  for (const LanguageItem& item : kLanguages) {
+    QAction* language = action(item.name, item.caption);
+    language->setCheckable(true);
+    language->setData(item.code);
+    languages_->addAction(language);
+    mniSetLanguage->addAction(language);
+  }
+  recentEnd_ = mnuFile_->addSeparator();
+  mnuFile_->addAction(mniExit_);
+}
+
+void mdiMain::buildEditMenu() {
+  mniCut_ = action("mniCut", 9034);
+  mniCopy_ = action("mniCopy", 9035);
+  mniPaste_ = action("mniPaste", 9036);
+  menuBar()->addMenu(text(9033))->addActions({mniCut_, mniCopy_, mniPaste_});
+}
+
+void mdiMain::buildProjectMenu() {
+  mniAddName_ = action("mniAddName", 9029);
+  mniEditName_ = action("mniEditName", 9030);
+  mniRemoveName_ = action("mniRemoveName", 9031);
+  menuBar()->addMenu(text(9028))->addActions({mniAddName_, mniEditName_, mniRemoveName_});
+}
+
+void mdiMain::buildWindowMenu() {
+  mniCascade_ = action("mniCascade", 9019);
+  mniTileH_ = action("mniTileH", 9020);
+  mniTileV_ = action("mniTileV", 9021);
+  mniArrange_ = action("mniArrange", 9022);
+  menuBar()->addMenu(text(9018))->addActions({mniCascade_, mniTileH_, mniTileV_, mniArrange_});
+}
+
+void mdiMain::buildHelpMenu() {
+  mniAbout_ = action("mniAbout", 9026);
+  menuBar()->addMenu(text(9023))->addAction(mniAbout_);
+}
+
+void mdiMain::buildToolbar() {
+  toolbar_ = addToolBar(text(9001));
+  toolbar_->setObjectName("tbrMain");
+  toolbar_->setMovable(false);
+  const QStyle& look = *style();
+  const auto add = [this](const char* key, int tip, const QIcon& icon) {
+    QAction* item = toolbar_->addAction(icon, text(tip));
+    item->setObjectName(key);
+    item->setToolTip(text(tip));
+    return item;
+  };
+  add("tblNew", 1401, ThemeIcon("document-new", look, QStyle::SP_FileIcon));
+  add("tblOpen", 1402, ThemeIcon("document-open", look, QStyle::SP_DialogOpenButton));
+  tblSave_ = add("tblSave", 1403, ThemeIcon("document-save", look, QStyle::SP_DialogSaveButton));
+  toolbar_->addSeparator();
+  // The style has no pictures for the clipboard; without a theme these show their text.
+  add("tblCut", 1404, QIcon::fromTheme("edit-cut"));
+  add("tblCopy", 1405, QIcon::fromTheme("edit-copy"));
+  add("tblPaste", 1406, QIcon::fromTheme("edit-paste"));
+}
+
+void mdiMain::wireSignals() {
+  connect(mniNew_, &QAction::triggered, this, &mdiMain::newProjectDialog);
+  connect(mniOpen_, &QAction::triggered, this, &mdiMain::openDialog);
+  connect(mniCloseProject_, &QAction::triggered, mdiArea_, &QMdiArea::closeActiveSubWindow);
+  connect(mniSave_, &QAction::triggered, this, [this] {
+    if (frmProject* project = activeProject()) project->save();
+  });
+  connect(mniSaveAs_, &QAction::triggered, this, [this] {
+    if (frmProject* project = activeProject()) project->saveAs();
+  });
+  connect(mniProperties_, &QAction::triggered, this, &mdiMain::showSettings);
+  connect(mniExit_, &QAction::triggered, this, &QWidget::close);
+  connect(languages_, &QActionGroup::triggered, this,
+          [this](QAction* language) { program_.setLanguage(language->data().toInt()); });
+  connect(mniCut_, &QAction::triggered, this, [this] { sendKeyToFocus(Qt::Key_X); });
+  connect(mniCopy_, &QAction::triggered, this, [this] { sendKeyToFocus(Qt::Key_C); });
+  connect(mniPaste_, &QAction::triggered, this, [this] { sendKeyToFocus(Qt::Key_V); });
+  connect(mniAddName_, &QAction::triggered, this, [this] {
+    if (frmProject* project = activeProject()) project->addUserName();
+  });
+  connect(mniEditName_, &QAction::triggered, this, [this] {
+    if (frmProject* project = activeProject()) project->editUserName();
+  });
+  connect(mniRemoveName_, &QAction::triggered, this, [this] {
+    if (frmProject* project = activeProject()) project->removeUserName();
+  });
+  connect(mniCascade_, &QAction::triggered, mdiArea_, &QMdiArea::cascadeSubWindows);
+  connect(mniTileH_, &QAction::triggered, this, [this] { TileHorizontally(*mdiArea_); });
+  connect(mniTileV_, &QAction::triggered, this, [this] { TileVertically(*mdiArea_); });
+  connect(mniArrange_, &QAction::triggered, this, [this] { ArrangeIcons(*mdiArea_); });
+  connect(mniAbout_, &QAction::triggered, this, &mdiMain::showAbout);
+  connect(toolbar_, &QToolBar::actionTriggered, this, &mdiMain::toolbarAction);
+  connect(mdiArea_, &QMdiArea::subWindowActivated, this, &mdiMain::updateCommands);
+}
+
+void mdiMain::toolbarAction(QAction* item) {
+  const QString key = item->objectName();
+  if (key == "tblNew") mniNew_->trigger();
+  else if (key == "tblOpen") mniOpen_->trigger();
+  else if (key == "tblSave") mniSave_->trigger();
+  else if (key == "tblCut") sendKeyToFocus(Qt::Key_X);
+  else if (key == "tblCopy") sendKeyToFocus(Qt::Key_C);
+  else if (key == "tblPaste") sendKeyToFocus(Qt::Key_V);
+}
+
+// The focused control gets the keystroke itself, so that grids and text boxes
+// cut, copy and paste in their own way.
+void mdiMain::sendKeyToFocus(int key) {
+  QWidget* focus = QApplication::focusWidget();
+  if (focus == nullptr) return;
+  QKeyEvent press(QEvent::KeyPress, key, Qt::ControlModifier);
+  QKeyEvent release(QEvent::KeyRelease, key, Qt::ControlModifier);
+  QApplication::sendEvent(focus, &press);
+  QApplication::sendEvent(focus, &release);
+}
+
+void mdiMain::rebuildRecentMenu() {
+  qDeleteAll(recentActions_);
+  recentActions_.clear();
+  const auto& entries = program_.recent.Entries();
+  for (std::size_t n = 1; n <= entries.size(); ++n) {
+    const tamsic::RecentProject& entry = entries[n - 1];
+    auto* item = new QAction(QString::fromStdString(tamsic::RecentProjects::MenuCaption(n, entry)), this);
+    item->setObjectName(QStringLiteral("mniRecent%1").arg(n));
+    item->setToolTip(QString::fromStdString(entry.title));
+    const QString path = QString::fromStdString(entry.name);
+    connect(item, &QAction::triggered, this, [this, path] { openProject(path); });
+    mnuFile_->insertAction(recentEnd_, item);
+    recentActions_ << item;
+  }
+  if (!recentActions_.isEmpty()) recentActions_ << mnuFile_->insertSeparator(recentActions_.front());
+}
+
+void mdiMain::checkCurrentLanguage() {
+  for (QAction* language : languages_->actions())
+    language->setChecked(language->data().toInt() == program_.settings.language);
+}
+
+void mdiMain::updateCommands() {
+  const bool project = activeProject() != nullptr;
+  for (QAction* item : {mniCloseProject_, mniSave_, mniSaveAs_, tblSave_, mniAddName_,
+                        mniEditName_, mniRemoveName_})
+    item->setEnabled(project);
+}
+
+frmProject* mdiMain::activeProject() const {
+  QMdiSubWindow* window = mdiArea_->currentSubWindow();
+  return window ? qobject_cast<frmProject*>(window->widget()) : nullptr;
+}
+
+frmProject* mdiMain::openProject(const QString& path) {
+  const std::string file = path.toStdString();
+  auto& messages = program_.messages;
+  std::optional<tamsic::OpenedProject> opened;
+  try {
+    opened = tamsic::OpenProjectFile(file, messages, true, program_.decimalSeparator);
+  } catch (const tamsic::FileError& error) {
+    messages.show(error.what(), tamsic::msg::kError, tamsic::MsgIcon::Critical);
+    return nullptr;
+  } catch (const tamsic::TamsicError& error) {
+    // The reader has already named the missing section; anything else is told here.
+    if (error.number() != tamsic::kErrMissingSection)
+      messages.show(messages.text(9128) + "\n\n" + error.what(), tamsic::msg::kError,
+                    tamsic::MsgIcon::Critical);
+    return nullptr;
+  } catch (const std::exception& error) {
+    messages.show(messages.text(9128) + "\n\n" + error.what(), tamsic::msg::kError,
+                  tamsic::MsgIcon::Critical);
+    return nullptr;
+  }
+  if (!opened) {
+    // A missing file was reported by the signature test; this one exists but is no project.
+    if (tamsic::FileExists(file))
+      messages.show(messages.text(9128) + "\n\n" + file, tamsic::msg::kWarning, tamsic::MsgIcon::Critical);
+    return nullptr;
+  }
+  tamsic::ProjectState state;
+  state.document = std::move(opened->document);
+  state.versionText = opened->versionText;
+  state.SetFullPath(file);
+  program_.recent.Add(file, tamsic::Cp1252ToUtf8(state.document.title));
+  rebuildRecentMenu();
+  return addProjectWindow(new frmProject(program_, std::move(state)));
+}
+
+frmProject* mdiMain::newProject(const NewProjectRequest& request) {
+  QDir().mkpath(request.folder);
+  QDir::setCurrent(request.folder);
+  tamsic::ProjectState state;
+  state.document = tamsic::NewProject(request.name.trimmed().toStdString(), request.user.trimmed().toStdString());
+  state.proposedFolder = request.folder.toStdString();
+  state.MarkChanged();
+  return addProjectWindow(new frmProject(program_, std::move(state)));
+}
+
+frmProject* mdiMain::addProjectWindow(frmProject* window) {
+  QMdiSubWindow* sub = mdiArea_->addSubWindow(window);
+  sub->setAttribute(Qt::WA_DeleteOnClose);
+  connect(window, &frmProject::saved, this, &mdiMain::projectSaved);
+  sub->resize(mdiArea_->viewport()->size() * 0.9);
+  sub->show();
+  mdiArea_->setActiveSubWindow(sub);
+  updateCommands();
+  return window;
+}
+
+void mdiMain::projectSaved(const QString& path, const QString& title) {
+  program_.recent.Add(path.toStdString(), title.toStdString());
+  rebuildRecentMenu();
+}
+
+void mdiMain::newProjectDialog() {
+  frmNewProject dialog(program_, this);
+  if (dialog.exec() == QDialog::Accepted) newProject(dialog.request());
+}
+
+void mdiMain::openDialog() {
+  const QString path = QFileDialog::getOpenFileName(this, text(9004), QDir::currentPath(), kProjectFilter);
+  if (!path.isEmpty()) openProject(path);
+}
+
+void mdiMain::showWelcomeIfWanted() {
+  if (program_.settings.showWelcome != 0) showWelcome();
+}
+
+void mdiMain::showWelcome() {
+  frmWelcome dialog(program_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  if (dialog.blankProjectChosen())
+    newProjectDialog();
+  else
+    openProject(dialog.chosenPath());
+}
+
+void mdiMain::showSettings() {
+  frmSettings dialog(program_, this);
+  if (dialog.exec() == QDialog::Accepted) checkCurrentLanguage();
+}
+
+void mdiMain::showAbout() { frmAbout(program_, this).exec(); }
+
+void mdiMain::closeEvent(QCloseEvent* event) {
+  // Each changed project asks whether to save it; one answer of Cancel keeps
+  // the program open. Unchanged projects close without a question.
+  for (QMdiSubWindow* window : mdiArea_->subWindowList()) {
+    if (!window->close()) {
+      event->ignore();
+      return;
+    }
+  }
+  program_.closeEngine();
+  event->accept();
+}
+
+QString mdiMain::text(int number) const {
+  return QString::fromStdString(program_.strings.text(number));
+}

@@ -1,0 +1,66 @@
+#pragma once
+// The project window: one project, its title, the scenario on show and the
+// column of input-page links beside the page area. It owns the project and
+// its file state; saving and the question before closing run through the
+// core's save flow.
+#include <QWidget>
+
+#include "files/ProjectSaveFlow.h"
+
+struct Program;
+class QComboBox;
+class QLineEdit;
+class QListWidget;
+class QStackedWidget;
+class QToolButton;
+
+class frmProject : public QWidget {
+  Q_OBJECT
+ public:
+  static constexpr int kPageCount = 14;
+
+  frmProject(Program& program, tamsic::ProjectState state, QWidget* parent = nullptr);
+
+  const tamsic::ProjectState& state() const { return state_; }
+
+  // Both answer whether the project was written.
+  bool save();
+  bool saveAs();
+
+  void addUserName();
+  void editUserName();
+  void removeUserName();
+
+  // The scenario on show, counted from 1.
+  std::size_t currentScenario() const;
+  void showScenario(std::size_t number);
+
+ signals:
+  // The project now lives in this file under this title.
+  void saved(const QString& path, const QString& title);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QWidget* buildHeader();
+  QWidget* buildPageArea();
+  void wireSignals();
+  void fillScenarioSelector();
+  void refreshPages();
+  void refreshCaption();
+  void titleEdited(const QString& text);
+  bool afterSave(tamsic::SaveResult result);
+  // The user name chosen from the project's users; -1 when there are none or the user cancels.
+  int chooseUserName();
+  QString text(int number) const;
+
+  Program& program_;
+  tamsic::ProjectState state_;
+  QLineEdit* txtProjectTitle_ = nullptr;
+  QComboBox* cboScenario_ = nullptr;
+  QToolButton* cmdPrevScene_ = nullptr;
+  QToolButton* cmdNextScene_ = nullptr;
+  QListWidget* hypInput_ = nullptr;
+  QStackedWidget* pages_ = nullptr;
+};

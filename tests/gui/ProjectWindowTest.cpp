@@ -1,0 +1,176 @@
+// Opening, saving and closing projects through the main frame, and the
+// language of the windows.
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include "GuiTestSupport.h"
+#include "app/ui/mdiMain.h"
+#include "pages/ui/frmProject.h"
+
+using namespace guitest;
+
+namespace {
+
+QString FirstPageLink(const frmProject* project) {
+  return project->findChild<QListWidget*>("hypInput")->item(0)->text();
+}
+
+QString Text(const std::string& text) { return QString::fromStdString(text); }
+
+}  // namespace
+
+class ProjectWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { ClearSettings(); }
+
+  void languageAppliesToWindowsOpenedAfterwards() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    frmProject* before = frame.newProject({folder.path(), "Trout", "Ann"});
+    QCOMPARE(FirstPageLink(before), QString("Scenario Settings"));
+
+    frame.findChild<QAction*>("mniGerman")->trigger();
+
+    QCOMPARE(FirstPageLink(before), QString("Scenario Settings"));
+    QCOMPARE(frame.findChild<QAction*>("mniOpen")->text(), QString("Open Project ..."));
+    frmProject* after = frame.newProject({folder.path(), "Lachs", "Ann"});
+    QCOMPARE(FirstPageLink(after), Text(t.textIn(3, 0)));
+    QVERIFY(FirstPageLink(after) != "Scenario Settings");
+    QCOMPARE(GlobalSettingsFile().value("GlobalSettings/Language").toString(), QString("3"));
+
+    // Message boxes take their text when they are shown.
+    t.box.expect(t.textIn(3, 9139));
+    QVERIFY(frame.openProject(folder.filePath("missing.tpj")) == nullptr);
+    QCOMPARE(t.box.shown.back().caption, t.textIn(3, 9103));
+  }
+
+  void openingRotatesTheBackups() {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("Koalas.tpj");
+    const QByteArray original = ReadFile(Example("Koalas.tpj"));
+    TestProgram t;
+    mdiMain frame(t.program);
+    for (int opening = 1; opening <= 4; ++opening) {
+      WriteFile(path, original + "# opening " + QByteArray::number(opening) + "\r\n");
+      frmProject* project = frame.openProject(path);
+      QVERIFY(project != nullptr);
+      QCOMPARE(project->windowTitle(), "Koalas in three fragments - " + path);
+      QVERIFY(frame.mdiArea()->currentSubWindow()->close());
+    }
+    QVERIFY(ReadFile(path + ".bak").endsWith("# opening 4\r\n"));
+    QVERIFY(ReadFile(path + ".bk2").endsWith("# opening 3\r\n"));
+    QVERIFY(ReadFile(path + ".bk3").endsWith("# opening 2\r\n"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 4);
+  }
+
+  void saveAndSaveAsFollowTheTitleAndTheCaption() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    frmProject* project = frame.newProject({folder.path(), "Trout", "Ann"});
+    QCOMPARE(project->windowTitle(), QString("Trout - not previously saved"));
+
+    const QString trout = folder.filePath("Trout.tpj");
+    t.saveDialog.answer = trout.toStdString();
+    frame.findChild<QAction*>("mniSave")->trigger();
+    QCOMPARE(t.saveDialog.proposed.back(), std::string("Trout"));
+    QCOMPARE(project->windowTitle(), "Trout - " + trout);
+    QVERIFY(ReadFile(trout).startsWith("# TPSIG9.99"));
+    QCOMPARE(RecentFile().value("MRUList/1Name").toString(), trout);
+
+    auto* title = project->findChild<QLineEdit*>("txtProjectTitle");
+    title->clear();
+    QTest::keyClicks(title, "Salmon");
+    QCOMPARE(project->windowTitle(), "Salmon - " + trout);
+    t.box.expect(t.textIn(1, 9136), tamsic::MsgAnswer::No);
+    frame.findChild<QAction*>("mniSave")->trigger();
+    QVERIFY(t.box.allShown());
+    QCOMPARE(project->state().FullPath(), trout.toStdString());
+    QVERIFY(!project->state().Changed());
+
+    const QString charr = folder.filePath("Char.tpj");
+    t.saveDialog.answer = charr.toStdString();
+    t.box.expect(t.textIn(1, 9137), tamsic::MsgAnswer::Yes);
+    frame.findChild<QAction*>("mniSaveAs")->trigger();
+    QCOMPARE(title->text(), QString("Char"));
+    QCOMPARE(project->windowTitle(), "Char - " + charr);
+    QVERIFY(QFile::exists(charr));
+  }
+
+  void brokenFilesAreReportedAndLeftAsTheyWere() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    const QString truncated = folder.filePath("Truncated.tpj");
+    const QByteArray bytes = ReadFile(Example("Koalas.tpj")).left(400);
+    WriteFile(truncated, bytes);
+    t.box.expect(t.textIn(1, 9145));
+    QVERIFY(frame.openProject(truncated) == nullptr);
+
+    const QString foreign = folder.filePath("Notes.tpj");
+    WriteFile(foreign, "Shopping list\r\n");
+    t.box.expect(t.textIn(1, 9128));
+    QVERIFY(frame.openProject(foreign) == nullptr);
+
+    QVERIFY(t.box.allShown());
+    QVERIFY(frame.mdiArea()->subWindowList().isEmpty());
+    QCOMPARE(ReadFile(truncated), bytes);
+    QCOMPARE(ReadFile(foreign), QByteArray("Shopping list\r\n"));
+  }
+
+  void clipboardCommandsWorkOnTheFocusedControl() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    frame.show();
+    frame.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&frame));
+    frmProject* project = frame.newProject({folder.path(), "Koalas", "Ann"});
+    auto* title = project->findChild<QLineEdit*>("txtProjectTitle");
+    title->setFocus();
+    QTRY_COMPARE(QApplication::focusWidget(), title);
+
+    title->selectAll();
+    frame.findChild<QAction*>("mniCopy")->trigger();
+    title->end(false);
+    frame.findChild<QAction*>("mniPaste")->trigger();
+    QCOMPARE(title->text(), QString("KoalasKoalas"));
+    QCOMPARE(project->windowTitle(), QString("KoalasKoalas - not previously saved"));
+
+    title->selectAll();
+    frame.findChild<QAction*>("mniCut")->trigger();
+    QCOMPARE(title->text(), QString());
+    QCOMPARE(project->windowTitle(), QString("Unnamed Tamsic Project - not previously saved"));
+    t.box.expect(t.textIn(1, 9118), tamsic::MsgAnswer::No);
+  }
+
+  void closingAsksForChangedProjectsAndThenClosesTheEngine() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    frame.show();
+    frame.newProject({folder.path(), "Trout", "Ann"});
+    frame.newProject({folder.path(), "Salmon", "Ann"});
+
+    t.box.expect(t.textIn(1, 9118), tamsic::MsgAnswer::Cancel);
+    QVERIFY(!frame.close());
+    QVERIFY(frame.isVisible());
+    QCOMPARE(t.engineClosed, 0);
+
+    t.box.expect(t.textIn(1, 9118), tamsic::MsgAnswer::No);
+    t.box.expect(t.textIn(1, 9118), tamsic::MsgAnswer::No);
+    QVERIFY(frame.close());
+    QVERIFY(t.box.allShown());
+    QCOMPARE(t.engineClosed, 1);
+  }
+};
+
+QTEST_MAIN(ProjectWindowTest)
+#include "ProjectWindowTest.moc"

@@ -1,0 +1,113 @@
+// The global settings and the recent-projects list as they live in the
+// user's settings files, and what the windows make of them.
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QMenuBar>
+#include <QTreeWidget>
+
+#include "GuiTestSupport.h"
+#include "app/ui/frmSettings.h"
+#include "app/ui/frmWelcome.h"
+#include "app/ui/mdiMain.h"
+
+using namespace guitest;
+
+class SettingsTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { ClearSettings(); }
+
+  void absentSettingsAreOne() {
+    TestProgram t;
+    QCOMPARE(t.program.settings, (tamsic::GlobalSettings{1, 1, 1}));
+    QCOMPARE(t.strings.language(), tamsic::Language::English);
+  }
+
+  void unreadableSettingsFallBackToOne() {
+    {
+      QSettings file = GlobalSettingsFile();
+      file.setValue("GlobalSettings/ShowEquationDialogOnEquals", "0");
+      file.setValue("GlobalSettings/ShowWelcome", "never");
+      file.setValue("GlobalSettings/Language", "12");
+    }
+    TestProgram t;
+    QCOMPARE(t.program.settings, (tamsic::GlobalSettings{0, 1, 1}));
+  }
+
+  void settingsDialogKeepsItsChoicesForTheNextStart() {
+    {
+      TestProgram t;
+      frmSettings dialog(t.program);
+      dialog.findChild<QCheckBox*>("chkShowWelcome")->setChecked(false);
+      dialog.findChild<QComboBox*>("cboLanguage")->setCurrentIndex(2);
+      dialog.accept();
+    }
+    QSettings file = GlobalSettingsFile();
+    QCOMPARE(file.value("GlobalSettings/ShowWelcome").toString(), QString("0"));
+    QCOMPARE(file.value("GlobalSettings/Language").toString(), QString("2"));
+    TestProgram next;
+    QCOMPARE(next.strings.language(), tamsic::Language::Spanish);
+  }
+
+  void recentListLoadsPastAGapAndShowsInTheFileMenu() {
+    {
+      QSettings file = RecentFile();
+      file.setValue("MRUList/1Name", "/p/first.tpj");
+      file.setValue("MRUList/1Title", "First");
+      file.setValue("MRUList/2Name", "");
+      file.setValue("MRUList/3Name", "/p/third & last.tpj");
+    }
+    TestProgram t;
+    mdiMain frame(t.program);
+    QCOMPARE(frame.findChild<QAction*>("mniRecent1")->text(), QString("&1 /p/first.tpj"));
+    QCOMPARE(frame.findChild<QAction*>("mniRecent2")->text(), QString("&2 /p/third && last.tpj"));
+    QVERIFY(frame.findChild<QAction*>("mniRecent3") == nullptr);
+  }
+
+  void openingMovesToTopIgnoringCaseAndTheEleventhDropsTheOldest() {
+    QTemporaryDir folder;
+    const QString koalas = folder.filePath("Koalas.tpj");
+    QVERIFY(QFile::copy(Example("Koalas.tpj"), koalas));
+    TestProgram t;
+    mdiMain frame(t.program);
+    t.program.recent.Add(koalas.toUpper().toStdString(), "old title");
+    for (int n = 1; n <= 9; ++n) t.program.recent.Add("/p/" + std::to_string(n) + ".tpj", "");
+
+    QVERIFY(frame.openProject(koalas) != nullptr);
+
+    QSettings file = RecentFile();
+    QCOMPARE(file.value("MRUList/1Name").toString(), koalas);
+    QCOMPARE(file.value("MRUList/1Title").toString(), QString("Koalas in three fragments"));
+    QCOMPARE(file.value("MRUList/2Name").toString(), QString("/p/9.tpj"));
+    QCOMPARE(file.value("MRUList/10Name").toString(), QString("/p/1.tpj"));
+    QCOMPARE(frame.findChild<QAction*>("mniRecent1")->text(), "&1 " + koalas);
+
+    t.program.recent.Add("/p/eleventh.tpj", "");
+    QCOMPARE(RecentFile().value("MRUList/10Name").toString(), QString("/p/2.tpj"));
+  }
+
+  void welcomeMarksMissingRecentProjects() {
+    QTemporaryDir folder;
+    const QString koalas = folder.filePath("Koalas.tpj");
+    QVERIFY(QFile::copy(Example("Koalas.tpj"), koalas));
+    TestProgram t;
+    t.program.recent.Add(folder.filePath("Gone.tpj").toStdString(), "Gone");
+    t.program.recent.Add(koalas.toStdString(), "Koalas");
+    frmWelcome welcome(t.program);
+    const auto* list = welcome.findChild<QTreeWidget*>("lstRecent");
+    QCOMPARE(list->topLevelItemCount(), 2);
+    QCOMPARE(list->topLevelItem(0)->text(3), QString("Koalas in three fragments"));
+    QVERIFY(list->topLevelItem(1)->text(2) == "Not Found!");
+    QVERIFY(!(list->topLevelItem(1)->flags() & Qt::ItemIsEnabled));
+
+    welcome.findChild<QCheckBox*>("chkShowWelcome")->setChecked(false);
+    welcome.accept();
+    QCOMPARE(welcome.chosenPath(), koalas);
+    QCOMPARE(GlobalSettingsFile().value("GlobalSettings/ShowWelcome").toString(), QString("0"));
+  }
+};
+
+QTEST_MAIN(SettingsTest)
+#include "SettingsTest.moc"
