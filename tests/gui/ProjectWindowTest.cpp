@@ -68,6 +68,11 @@ class ProjectWindowTest : public QObject {
     QVERIFY(ReadFile(path + ".bk2").endsWith("# opening 3\r\n"));
     QVERIFY(ReadFile(path + ".bk3").endsWith("# opening 2\r\n"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 4);
+
+    // Opening a project that is open already only brings its window forward.
+    QCOMPARE(frame.openProject(path), frame.openProject(path));
+    QCOMPARE(frame.mdiArea()->subWindowList().size(), 1);
+    QVERIFY(ReadFile(path + ".bk3").endsWith("# opening 3\r\n"));
   }
 
   void saveAndSaveAsFollowTheTitleAndTheCaption() {

@@ -159,12 +159,14 @@ void frmWelcome::fillRecent() {
   if (lstRecent_->topLevelItemCount() > 0) lstRecent_->setCurrentItem(lstRecent_->topLevelItem(0));
 }
 
+// The drives are the mounted file systems; the one holding the current folder is chosen.
 void frmWelcome::fillDrives() {
-  QStringList roots{QDir::homePath(), QDir::rootPath()};
+  QStringList roots{QDir::rootPath()};
   for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
     if (volume.isValid() && volume.isReady() && !roots.contains(volume.rootPath()))
       roots << volume.rootPath();
   cboDrive_->addItems(roots);
+  cboDrive_->setCurrentText(QStorageInfo(QDir::currentPath()).rootPath());
 }
 
 void frmWelcome::showFolder(const QString& folder) {

@@ -245,6 +245,14 @@ frmProject* mdiMain::activeProject() const {
 
 frmProject* mdiMain::openProject(const QString& path) {
   const std::string file = path.toStdString();
+  // A second window on the same file would let one save over the other's work.
+  for (QMdiSubWindow* window : mdiArea_->subWindowList()) {
+    auto* project = qobject_cast<frmProject*>(window->widget());
+    if (project != nullptr && project->state().FullPath() == file) {
+      mdiArea_->setActiveSubWindow(window);
+      return project;
+    }
+  }
   auto& messages = program_.messages;
   std::optional<tamsic::OpenedProject> opened;
   try {
