@@ -300,7 +300,10 @@ frmProject* mdiMain::addProjectWindow(frmProject* window) {
   QMdiSubWindow* sub = mdiArea_->addSubWindow(window);
   sub->setAttribute(Qt::WA_DeleteOnClose);
   connect(window, &frmProject::saved, this, &mdiMain::projectSaved);
-  sub->resize(mdiArea_->viewport()->size() * 0.9);
+  // Each new window a step down and right of the last, always wholly inside the frame.
+  const int step = 24 * ((mdiArea_->subWindowList().size() - 1) % 5);
+  sub->setGeometry(step, step, mdiArea_->viewport()->width() * 85 / 100,
+                   mdiArea_->viewport()->height() * 85 / 100);
   sub->show();
   mdiArea_->setActiveSubWindow(sub);
   updateCommands();
