@@ -16,6 +16,11 @@ namespace guitest {
 
 class ExpectedMessages : public tamsic::IMessageBox {
  public:
+  ~ExpectedMessages() override {
+    if (!expected_.empty())
+      QTest::qFail(("message never shown: " + expected_.front().text).c_str(), __FILE__, __LINE__);
+  }
+
   // The next message must begin with text; it is answered with answer.
   void expect(std::string text, tamsic::MsgAnswer answer = tamsic::MsgAnswer::Ok) {
     expected_.push_back({std::move(text), answer});
