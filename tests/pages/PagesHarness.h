@@ -27,6 +27,7 @@ class ExpectedMessages : public tamsic::IMessageBox {
 
   tamsic::MsgAnswer show(const tamsic::MessageBoxRequest& request) override {
     shown.push_back(request);
+    if (closing) return tamsic::MsgAnswer::Cancel;
     if (expected_.empty() || request.text.rfind(expected_.front().text, 0) != 0) {
       QTest::qFail(("unexpected message: " + request.text).c_str(), __FILE__, __LINE__);
       return tamsic::MsgAnswer::Cancel;
@@ -36,6 +37,9 @@ class ExpectedMessages : public tamsic::IMessageBox {
     return answer;
   }
   std::vector<tamsic::MessageBoxRequest> shown;
+  // Set when the window closes: an editor still holding a refused value is
+  // committed once more as it goes, which is no longer the test's business.
+  bool closing = false;
 
  private:
   struct Expected {
@@ -75,6 +79,7 @@ struct Harness {
   }
   ~Harness() {
     if (!box.allShown()) QTest::qFail("an expected message was not shown", __FILE__, __LINE__);
+    box.closing = true;
   }
 
   template <typename T>

@@ -1,0 +1,153 @@
+// What the values on the pages switch on and off, grids re-shaped by their
+// counts, the page links, and the hints of the focused control or cell.
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QSignalSpy>
+
+#include "PagesHarness.h"
+
+class PageEnablingTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void rules_data();
+  void rules();
+  void hermaphroditesHaveNoSexRatio();
+  void stateVariableCounts_data();
+  void stateVariableCounts();
+  void pageLinksFollowTheCounts();
+  void hintsFollowTheFocus();
+};
+
+// A step is "click NAME" or "type NAME VALUE"; the control must then be enabled or not.
+void PageEnablingTest::rules_data() {
+  QTest::addColumn<QStringList>("steps");
+  QTest::addColumn<QString>("control");
+  QTest::addColumn<bool>("enabled");
+  QTest::newRow("depression on") << QStringList{} << "txtLethalEquiv" << true;
+  QTest::newRow("depression off") << QStringList{"click chkDepress"} << "txtPercentLethal" << false;
+  QTest::newRow("critical size unused") << QStringList{} << "txtExtinctN" << false;
+  QTest::newRow("critical size used") << QStringList{"click optExtinctDef_1"} << "txtExtinctN" << true;
+  QTest::newRow("hermaphrodites: no male age") << QStringList{"click optMPHLQ_2"} << "txtAgeReproM" << false;
+  QTest::newRow("monogamy again") << QStringList{"click optMPHLQ_2", "click optMPHLQ_0"} << "txtSexRatio" << true;
+  QTest::newRow("exact distribution: no mean") << QStringList{} << "gridRepRates2" << false;
+  QTest::newRow("exact distribution used") << QStringList{} << "gridRepRates3" << true;
+  QTest::newRow("normal distribution") << QStringList{"click optUseMean_0"} << "gridRepRates2" << true;
+  QTest::newRow("normal: no exact") << QStringList{"click optUseMean_0"} << "gridRepRates3" << false;
+  QTest::newRow("stable ages: total") << QStringList{} << "gridInitPopStable" << true;
+  QTest::newRow("stable ages: no ages") << QStringList{} << "gridInitPopMale" << false;
+  QTest::newRow("given ages") << QStringList{"click optStartWith_1"} << "gridInitPopFemale" << true;
+  QTest::newRow("given ages: no total") << QStringList{"click optStartWith_1"} << "gridInitPopStable" << false;
+  QTest::newRow("no studbook") << QStringList{} << "cmdBrowseGenMgtImportStudbookFile" << false;
+  QTest::newRow("studbook") << QStringList{"click chkGenMgtImportStudbookFile"} << "valtxtGenMgtImportStudbookFile" << true;
+  QTest::newRow("allele file") << QStringList{"click chkGenMgtAlleleFreqs"} << "cmdBrowseGenMgtAlleleFreqs" << true;
+  QTest::newRow("kinship off") << QStringList{} << "SSOptGenMgtPairMK_1" << false;
+  QTest::newRow("kinship on") << QStringList{"click chkGenMgtPairMeanKinship"} << "SSOptGenMgtPairMK_0" << true;
+  QTest::newRow("matings allowed") << QStringList{} << "valtxtGenMgtPairingLimitation" << false;
+  QTest::newRow("matings limited") << QStringList{"click chkGenMgtPreventMatingsF"} << "valtxtGenMgtNumTimesTryFindMate" << true;
+  QTest::newRow("one population: no EV correlation") << QStringList{} << "txtEV" << false;
+  QTest::newRow("two populations") << QStringList{"type txtNumPop 2"} << "txtEV" << true;
+  QTest::newRow("one population: nothing to copy") << QStringList{} << "ssCMDCopyInputValues" << false;
+  QTest::newRow("copy between two") << QStringList{"type txtNumPop 2"} << "cboPopulationPicker" << true;
+  QTest::newRow("no global variables") << QStringList{} << "gridGlobalVars" << false;
+  QTest::newRow("global variables") << QStringList{"type txtNumGlobalVars 2"} << "gridGlobalVars" << true;
+}
+
+void PageEnablingTest::rules() {
+  QFETCH(QStringList, steps);
+  QFETCH(QString, control);
+  QFETCH(bool, enabled);
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  for (const QString& step : steps) {
+    const QStringList words = step.split(' ');
+    if (words[0] == "click") {
+      auto* button = h.find<QAbstractButton>(words[1].toUtf8().constData());
+      h.showPageOf(button);
+      QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));  // on the box, not past its text
+    } else {
+      h.type(words[1].toUtf8().constData(), words[2]);
+    }
+  }
+  auto* widget = h.find<QWidget>(control.toUtf8().constData());
+  QCOMPARE(widget->isEnabled(), enabled);
+  if (auto* view = qobject_cast<GridView*>(widget)) {
+    const QColor paint = view->grid()->indexAt(1, 1).data(Qt::BackgroundRole).value<QBrush>().color();
+    QCOMPARE(paint, enabled ? QColor(0xFFFFFF) : QColor(0xE0E0E0));
+  }
+  QCOMPARE(h.undo.count(), static_cast<int>(steps.size()));
+}
+
+void PageEnablingTest::hermaphroditesHaveNoSexRatio() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  auto* option = h.find<QAbstractButton>("optMPHLQ_2");
+  h.showPageOf(option);
+  QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(6, option->height() / 2));
+  QCOMPARE(h.find<QLineEdit>("txtSexRatio")->text(), QString("0"));
+  QVERIFY(!h.find<QLineEdit>("txtSexRatio")->isEnabled());
+  QCOMPARE(h.record().Text(tamsic::F("txtSexRatio")), std::string("0"));
+}
+
+void PageEnablingTest::stateVariableCounts_data() {
+  QTest::addColumn<QString>("box");
+  QTest::addColumn<QString>("grid");
+  QTest::addColumn<QString>("prefix");
+  QTest::addColumn<int>("firstVariableColumn");
+  QTest::newRow("population") << "txtNumPopStateVars" << "gridPopLabels" << "PS" << 2;
+  QTest::newRow("global") << "txtNumGlobalVars" << "gridGlobalVars" << "GS" << 1;
+  QTest::newRow("individual") << "txtNumIndividualStateParams" << "gridIndividualStateParams" << "IS" << 1;
+}
+
+void PageEnablingTest::stateVariableCounts() {
+  QFETCH(QString, box);
+  QFETCH(QString, grid);
+  QFETCH(QString, prefix);
+  QFETCH(int, firstVariableColumn);
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  const QByteArray gridName = grid.toUtf8();
+  h.type(box.toUtf8().constData(), "3");
+  GridModel* model = h.grid(gridName.constData())->grid();
+  QCOMPARE(model->columnCount(), firstVariableColumn + 2);
+  for (int v = 0; v < 3; ++v)
+    QCOMPARE(model->headerData(firstVariableColumn - 1 + v, Qt::Horizontal, Qt::DisplayRole).toString(),
+             prefix + QString::number(v + 1));
+  h.type(box.toUtf8().constData(), "0");
+  QCOMPARE(h.record().GetGrid(*tamsic::FieldByMember(gridName.toStdString())).cols(), std::size_t{2});
+  if (firstVariableColumn == 1) QVERIFY(!h.grid(gridName.constData())->isEnabled());
+}
+
+void PageEnablingTest::pageLinksFollowTheCounts() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  QSignalSpy changed(h.pages.get(), &InputPages::availabilityChanged);
+  QVERIFY(!h.pages->pageAvailable(InputPages::Dispersal));
+  QVERIFY(h.pages->pageAvailable(InputPages::Catastrophes));
+  h.type("txtNumPop", "2");
+  QVERIFY(h.pages->pageAvailable(InputPages::Dispersal));
+  h.type("txtNumCatast", "0");
+  QVERIFY(!h.pages->pageAvailable(InputPages::Catastrophes));
+  QVERIFY(changed.count() >= 2);
+  QCOMPARE(h.pages->linkHint(InputPages::Dispersal), QString::fromStdString(h.strings.text(1303)));
+}
+
+void PageEnablingTest::hintsFollowTheFocus() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  QSignalSpy hints(h.pages.get(), &InputPages::hintChanged);
+  QLineEdit* years = h.find<QLineEdit>("txtNumYear");
+  years->setFocus();
+  QTRY_VERIFY(!hints.isEmpty());
+  QCOMPARE(hints.last().first().toString(), QString::fromStdString(h.strings.text(3)));
+
+  GridView* mortality = h.grid("gridMortFemales");
+  h.showPageOf(mortality);
+  mortality->setFocus();
+  mortality->setCurrentIndex(mortality->grid()->indexAt(1, 2));
+  QCOMPARE(hints.last().first().toString(), QString::fromStdString(h.strings.text(606)));
+  mortality->setCurrentIndex(mortality->grid()->indexAt(1, 3));
+  QCOMPARE(hints.last().first().toString(), QString::fromStdString(h.strings.text(604)));
+}
+
+QTEST_MAIN(PageEnablingTest)
+#include "PageEnablingTest.moc"

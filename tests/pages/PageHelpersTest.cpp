@@ -1,0 +1,204 @@
+// The commands that fill or transform many cells at once, the presets, the
+// density-dependent breeding function and "=" in a cell.
+#include <QComboBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include "PagesHarness.h"
+#include "pages/ui/DispersalPage.h"
+
+class PageHelpersTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void fillAndScaleTheDispersalMatrix();
+  void rateMatrixFilesReadWhatTheyWrite();
+  void rateMatrixFileThatDoesNotFit();
+  void copyFemaleMortality();
+  void copyInputValues_data();
+  void copyInputValues();
+  void presetsAddNumberedVariables();
+  void breedingFunctionFromTheReproductiveSystem();
+  void equalsSignOpensTheEditorWhenAsked();
+};
+
+namespace {
+
+void Click(pagestest::Harness& h, const char* name) {
+  auto* button = h.find<QPushButton>(name);
+  h.showPageOf(button);
+  button->click();
+}
+
+void TwoPopulationsWithRates(pagestest::Harness& h) {
+  h.type("txtNumPop", "2");
+  h.editCell("gridDispRates", 1, 2, "1.25");
+  QTRY_COMPARE(h.cell("gridDispRates", 1, 2), std::string("1.25"));
+  h.editCell("gridDispRates", 2, 1, "=D");
+  QTRY_COMPARE(h.cell("gridDispRates", 2, 1), std::string("=D"));
+}
+
+DispersalPage* Dispersal(pagestest::Harness& h) {
+  return static_cast<DispersalPage*>(h.pages->page(InputPages::Dispersal));
+}
+
+}  // namespace
+
+void PageHelpersTest::fillAndScaleTheDispersalMatrix() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  TwoPopulationsWithRates(h);
+  GridModel* rates = h.grid("gridDispRates")->grid();
+  QCOMPARE(rates->indexAt(1, 1).data().toString(), QString("98.75"));  // what stays home
+  QVERIFY(!(rates->flags(rates->indexAt(1, 1)) & Qt::ItemIsEditable));
+
+  Dispersal(h)->txtApplyMultiplier->setText("2");
+  Click(h, "cmdApplyMultiplier");
+  QCOMPARE(h.cell("gridDispRates", 1, 2), std::string("2.50"));
+  QCOMPARE(h.cell("gridDispRates", 2, 1), std::string("=D*2"));
+
+  Dispersal(h)->txtFillDispersal->setText("2.5");
+  Click(h, "cmdFillDispersal");
+  QCOMPARE(h.cell("gridDispRates", 1, 2), std::string("2.50"));
+  QCOMPARE(h.cell("gridDispRates", 2, 1), std::string("2.50"));
+  QCOMPARE(h.cell("gridDispRates", 1, 1), std::string(""));
+  QCOMPARE(rates->indexAt(2, 2).data().toString(), QString("97.5"));
+
+  h.undo.undo();
+  QCOMPARE(h.cell("gridDispRates", 2, 1), std::string("=D*2"));
+}
+
+void PageHelpersTest::rateMatrixFilesReadWhatTheyWrite() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  TwoPopulationsWithRates(h);
+  QTemporaryDir folder;
+  const QString path = folder.filePath("RateMatrix.txt");
+  Dispersal(h)->chooseFile = [&](bool) { return path; };
+  Click(h, "SSCommand2");
+  QFile written(path);
+  QVERIFY(written.open(QIODevice::ReadOnly));
+  QCOMPARE(written.readAll(), QByteArray(";1.25\r\n=D;\r\n"));
+
+  h.editCell("gridDispRates", 1, 2, "7");
+  QTRY_COMPARE(h.cell("gridDispRates", 1, 2), std::string("7"));
+  Click(h, "SSCommand1");
+  QCOMPARE(h.cell("gridDispRates", 1, 2), std::string("1.25"));
+  QCOMPARE(h.cell("gridDispRates", 2, 1), std::string("=D"));
+}
+
+void PageHelpersTest::rateMatrixFileThatDoesNotFit() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  TwoPopulationsWithRates(h);
+  QTemporaryDir folder;
+  const QString path = folder.filePath("Three.txt");
+  QFile file(path);
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  file.write("0;1;2\n3;0;4\n5;6;0\n");
+  file.close();
+  Dispersal(h)->chooseFile = [&](bool) { return path; };
+  const tamsic::clsScenario before = h.record();
+  h.box.expect(path.toStdString() + ":\nThe rate matrix file has 3 lines, but the matrix has 2 populations");
+  Click(h, "SSCommand1");
+  QVERIFY(h.record() == before);
+}
+
+void PageHelpersTest::copyFemaleMortality() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  h.type("txtAgeReproM", "1");  // males: one pair fewer than females
+  Click(h, "cmdMortCopyFemale");
+  QCOMPARE(h.cell("gridMortMales", 1, 1), std::string("25"));
+  QCOMPARE(h.cell("gridMortMales", 1, 3), std::string("15"));
+  QCOMPARE(h.record().GetGrid(tamsic::F("gridMortMales")).cols(), std::size_t{5});
+}
+
+void PageHelpersTest::copyInputValues_data() {
+  QTest::addColumn<int>("from");
+  QTest::addColumn<bool>("allSections");
+  QTest::addColumn<QString>("capacityOfThird");
+  QTest::addColumn<QString>("breedingOfThird");
+  QTest::newRow("this section") << 1 << false << "500" << "65";
+  QTest::newRow("all sections") << 1 << true << "500" << "40";
+  QTest::newRow("from the last population") << 3 << true << "" << "65";
+}
+
+void PageHelpersTest::copyInputValues() {
+  QFETCH(int, from);
+  QFETCH(bool, allSections);
+  QFETCH(QString, capacityOfThird);
+  QFETCH(QString, breedingOfThird);
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  h.type("txtNumPop", "3");
+  h.editCell("gridRepRates1", 1, 1, "40");
+  QTRY_COMPARE(h.cell("gridRepRates1", 1, 1), std::string("40"));
+  h.editCell("gridRepRates1", 3, 1, "65");
+  QTRY_COMPARE(h.cell("gridRepRates1", 3, 1), std::string("65"));
+  h.editCell("gridCarryingCap1", 1, 1, "500");
+  QTRY_COMPARE(h.cell("gridCarryingCap1", 1, 1), std::string("500"));
+  const int edits = h.undo.count();
+  auto* picker = h.find<QComboBox>("cboPopulationPicker");
+  picker->setCurrentIndex(from - 1);
+  h.find<QComboBox>("cboSectionPicker")->setCurrentIndex(allSections ? 1 : 0);
+  h.find<QPushButton>("ssCMDCopyInputValues")->click();
+  QCOMPARE(QString::fromStdString(h.cell("gridCarryingCap1", 1, 3)), capacityOfThird);
+  QCOMPARE(QString::fromStdString(h.cell("gridRepRates1", 3, 1)), breedingOfThird);
+  QCOMPARE(h.cell("gridPopLabels", 3, 1), std::string(""));  // names are not copied
+  QCOMPARE(h.undo.count(), edits + (from == 3 ? 0 : 1));
+}
+
+void PageHelpersTest::presetsAddNumberedVariables() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  h.type("txtNumIndividualStateParams", "2");
+  Click(h, "OutbreakISVars");
+  QCOMPARE(h.find<QLineEdit>("txtNumIndividualStateParams")->text(), QString("6"));
+  QCOMPARE(h.cell("gridIndividualStateParams", 1, 3), std::string("DiseaseState"));
+  QCOMPARE(h.cell("gridIndividualStateParams", 4, 3), std::string("=IS3"));
+  QVERIFY(h.grid("gridIndividualStateParams")->isEnabled());
+  Click(h, "SpatialISVars");
+  h.box.expect("These 3 variables would make 12 Individual State variables; at most 10 are possible.");
+  Click(h, "SpatialISVars");
+  QCOMPARE(h.find<QLineEdit>("txtNumIndividualStateParams")->text(), QString("9"));
+}
+
+void PageHelpersTest::breedingFunctionFromTheReproductiveSystem() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  GridView* system = h.grid("gridReproSys");
+  h.showPageOf(system);
+  system->grid()->setData(system->grid()->indexAt(1, 1), Qt::Checked, Qt::CheckStateRole);
+  for (auto [row, value] : {std::pair{2, "50"}, {3, "20"}, {4, "5"}, {5, "2"}}) {
+    h.editCell("gridReproSys", row, 1, value);
+    QTRY_COMPARE(h.cell("gridReproSys", row, 1), std::string(value));
+  }
+  QCOMPARE(h.cell("gridRepRates1", 1, 1), std::string("=(50-((50-20)*((N/K)^2)))*(N/(5+N))"));
+  QCOMPARE(h.grid("gridRepRates1")->grid()->indexAt(1, 1).data().toString(),
+           QString("=(50-((50-20)*((N/K)^2)))*(N/(5+N))"));
+  QVERIFY(h.record().usingformula);
+}
+
+void PageHelpersTest::equalsSignOpensTheEditorWhenAsked() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  bool showOnEquals = true;
+  QStringList opened;
+  h.context.showEquationDialogOnEquals = [&] { return showOnEquals; };
+  h.context.openEquationEditor = [&](const QString& text) { opened << text; };
+  GridView* view = h.grid("gridCarryingCap1");
+  h.showPageOf(view);
+  view->setFocus();
+  view->setCurrentIndex(view->grid()->indexAt(1, 1));
+  QTest::keyClicks(view, "=");
+  QCOMPARE(opened, QStringList{"300"});
+
+  showOnEquals = false;
+  QTest::keyClicks(view, "=");
+  auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  QVERIFY(editor);
+  QCOMPARE(editor->text(), QString("="));
+}
+
+QTEST_MAIN(PageHelpersTest)
+#include "PageHelpersTest.moc"

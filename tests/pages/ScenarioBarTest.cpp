@@ -1,0 +1,159 @@
+// Adding, deleting, renaming, reordering and moving between scenarios.
+#include <QComboBox>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "PagesHarness.h"
+#include "pages/ui/frmNewScenario.h"
+#include "pages/ui/frmScenarios.h"
+
+using tamsic::F;
+
+class ScenarioBarTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void copiesOfATemplate();
+  void templateIsNeverAnSTScenario();
+  void deleteAsksFirst();
+  void deleteRefusesSTScenarios();
+  void renameRules_data();
+  void renameRules();
+  void reorderCautionsAndFollowsTheCurrentScenario();
+  void previousAndNext();
+};
+
+namespace {
+
+std::string Name(const pagestest::Harness& h, std::size_t n) { return h.scenarios.Item(n).Text(F("txtSceneName")); }
+
+void AddNamed(pagestest::Harness& h, std::initializer_list<const char*> names) {
+  for (const char* name : names) {
+    tamsic::clsScenario s = tamsic::NewScenarioDefaults();
+    s.SetText(F("txtSceneName"), name);
+    h.scenarios.Add(s);
+  }
+  h.bar->UpdateScenarioSelector();
+}
+
+}  // namespace
+
+void ScenarioBarTest::copiesOfATemplate() {
+  pagestest::Harness h;
+  h.type("txtNumYear", "250");
+  h.bar->runDialog = [](QDialog& dialog) {
+    auto& form = static_cast<frmNewScenario&>(dialog);
+    form.txtNumCreate->setText("3");
+    return true;
+  };
+  h.bar->addScenarios();
+  QCOMPARE(h.scenarios.Count(), std::size_t{4});
+  QCOMPARE(Name(h, 2), std::string("Baseline - Copy 1"));
+  QCOMPARE(Name(h, 4), std::string("Baseline - Copy 3"));
+  QCOMPARE(h.scenarios.Item(4).Text(F("txtNumYear")), std::string("250"));
+  QCOMPARE(h.pages->currentScenario(), std::size_t{2});
+  QCOMPARE(h.bar->cboScenario->count(), 4);
+  QCOMPARE(h.bar->cboScenario->currentText(), QString("Baseline - Copy 1"));
+  QCOMPARE(h.undo.count(), 0);  // the numbers the history refers to are no longer sure
+}
+
+void ScenarioBarTest::templateIsNeverAnSTScenario() {
+  pagestest::Harness h;
+  AddNamed(h, {"Dry", "ST.Low"});
+  h.pages->showScenario(3);
+  int proposed = -1;
+  h.bar->runDialog = [&](QDialog& dialog) {
+    proposed = static_cast<frmNewScenario&>(dialog).lstTemplates->currentRow();
+    return false;
+  };
+  h.bar->addScenarios();
+  QCOMPARE(proposed, 1);  // "Dry", the last one that is not a sensitivity test
+  QCOMPARE(h.scenarios.Count(), std::size_t{3});
+}
+
+void ScenarioBarTest::deleteAsksFirst() {
+  pagestest::Harness h;
+  QVERIFY(!h.bar->cmdDeleteScene->isEnabled());  // the last scenario stays
+  AddNamed(h, {"Dry", "Wet"});
+  h.bar->next();
+  QVERIFY(h.bar->cmdDeleteScene->isEnabled());
+  const std::string confirm = h.strings.text(9121);
+  h.box.expect(confirm, tamsic::MsgAnswer::No);
+  h.bar->cmdDeleteScene->click();
+  QCOMPARE(h.scenarios.Count(), std::size_t{3});
+  h.box.expect(confirm, tamsic::MsgAnswer::Yes);
+  h.bar->cmdDeleteScene->click();
+  QCOMPARE(h.scenarios.Count(), std::size_t{2});
+  QCOMPARE(h.find<QLineEdit>("txtSceneName")->text(), QString("Wet"));
+  QCOMPARE(h.box.shown.back().caption, h.strings.text(9115));
+}
+
+void ScenarioBarTest::deleteRefusesSTScenarios() {
+  pagestest::Harness h;
+  AddNamed(h, {"ST.High"});
+  h.bar->next();
+  h.box.expect("Cannot delete an ST scenario. Go to ST form to edit ST structure.");
+  h.bar->deleteScenario();
+  QCOMPARE(h.scenarios.Count(), std::size_t{2});
+}
+
+void ScenarioBarTest::renameRules_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<QString>("message");
+  QTest::newRow("another case of an existing name") << "DRY" << "Each scenario must have a unique name!";
+  QTest::newRow("question mark") << "Dry?" << "Scenario names cannot contain characters ( \\ / * or ?)";
+  QTest::newRow("backslash") << "a\\b" << "Scenario names cannot contain characters";
+  QTest::newRow("its own name in capitals") << "BASELINE" << "";
+  QTest::newRow("colon and bar") << "Dry: 10|20" << "";
+}
+
+void ScenarioBarTest::renameRules() {
+  QFETCH(QString, name);
+  QFETCH(QString, message);
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  AddNamed(h, {"Dry"});
+  if (!message.isEmpty()) h.box.expect(message.toStdString());
+  h.type("txtSceneName", name);
+  if (message.isEmpty()) {
+    QCOMPARE(QString::fromStdString(Name(h, 1)), name);
+    QCOMPARE(h.bar->cboScenario->itemText(0), name);
+  } else {
+    QCOMPARE(Name(h, 1), std::string("Baseline"));
+    QTRY_VERIFY(h.find<QLineEdit>("txtSceneName")->hasFocus());
+  }
+}
+
+void ScenarioBarTest::reorderCautionsAndFollowsTheCurrentScenario() {
+  pagestest::Harness h;
+  AddNamed(h, {"Dry", "Wet"});
+  h.box.expect("Caution: Changing the order of scenarios can change the baselines of ST analyses.");
+  h.bar->runDialog = [](QDialog& dialog) {
+    auto& order = static_cast<frmScenarios&>(dialog);
+    order.cmdDown->click();
+    order.cmdDown->click();
+    return true;
+  };
+  h.bar->cmdSceneFrm->click();
+  QCOMPARE(Name(h, 1), std::string("Dry"));
+  QCOMPARE(Name(h, 3), std::string("Baseline"));
+  QCOMPARE(h.pages->currentScenario(), std::size_t{3});
+  QCOMPARE(h.bar->cboScenario->itemText(2), QString("Baseline"));
+  QVERIFY(!h.bar->cmdNextScene->isEnabled());
+}
+
+void ScenarioBarTest::previousAndNext() {
+  pagestest::Harness h;
+  QVERIFY(!h.bar->cmdPrevScene->isEnabled());
+  QVERIFY(!h.bar->cmdNextScene->isEnabled());
+  AddNamed(h, {"Dry"});
+  QVERIFY(h.bar->cmdNextScene->isEnabled());
+  h.bar->cmdNextScene->click();
+  QCOMPARE(h.find<QLineEdit>("txtSceneName")->text(), QString("Dry"));
+  QVERIFY(h.bar->cmdPrevScene->isEnabled());
+  QVERIFY(!h.bar->cmdNextScene->isEnabled());
+  h.bar->cboScenario->setCurrentIndex(0);
+  QCOMPARE(h.pages->currentScenario(), std::size_t{1});
+}
+
+QTEST_MAIN(ScenarioBarTest)
+#include "ScenarioBarTest.moc"
