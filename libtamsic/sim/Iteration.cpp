@@ -23,6 +23,7 @@ namespace tamsic::sim {
 namespace {
 
 constexpr int kIbdLoci = 64;
+constexpr double kLethalLociPerEquivalent = 4.0;
 
 void Found(const Model& m, const std::vector<StartingNumbers>& start, World& world) {
   for (std::size_t p = 0; p < start.size(); ++p) {
@@ -59,8 +60,11 @@ GenomeShape ShapeOf(const Model& m) {
   shape.ibdLoci = std::max(kIbdLoci, m.neutralLoci);
   const double lethal = m.inbreedingDepression ? m.lethalEquivalents * m.percentLethal / 100.0 : 0.0;
   if (lethal > 0.0) {
-    shape.lethalLoci = static_cast<int>(std::ceil(lethal));
-    shape.lethalShare = lethal / shape.lethalLoci;
+    // Many loci with a modest share of lethal founder alleles, so that
+    // selection can purge them; the share makes a fully inbred individual
+    // survive the lethals with exp(-lethal equivalents).
+    shape.lethalLoci = static_cast<int>(std::ceil(kLethalLociPerEquivalent * lethal));
+    shape.lethalShare = 1.0 - std::exp(-lethal / shape.lethalLoci);
   }
   return shape;
 }

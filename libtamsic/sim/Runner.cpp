@@ -78,9 +78,10 @@ std::string Run(const std::string& workFile, const std::string& bracedList, cons
   RunMonitor::get().start(TotalIterations(project, names));
   std::string summary;
   for (const std::string& name : names) {
+    const clsScenario& scenario = FindScenario(project, name);
     Finished finished;
     try {
-      finished = RunOne(project, FindScenario(project, name), options, seed);
+      finished = RunOne(project, scenario, options, seed);
     } catch (const SimError& fault) {
       throw SimError("scenario \"" + name + "\": " + fault.what());
     }

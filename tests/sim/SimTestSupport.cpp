@@ -99,6 +99,11 @@ SimScenario& SimScenario::check(Field field, bool on) {
   return *this;
 }
 
+SimScenario& SimScenario::grid(Field grid, Grid table) {
+  scenario_.SetGrid(grid, std::move(table));
+  return *this;
+}
+
 SimScenario& SimScenario::cell(Field grid, std::size_t row, std::size_t col, const std::string& value) {
   Grid table = scenario_.GetGrid(grid);
   table.at(row, col) = value;

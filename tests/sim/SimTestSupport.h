@@ -22,6 +22,7 @@ class SimScenario {
   SimScenario& text(Field field, const std::string& value);
   SimScenario& option(Field chosen);
   SimScenario& check(Field field, bool on = true);
+  SimScenario& grid(Field grid, Grid table);
   SimScenario& cell(Field grid, std::size_t row, std::size_t col, const std::string& value);
   // The same value in row r of every population column (settings grids) or in column c of every population row.
   SimScenario& everyPopulation(Field grid, std::size_t index, const std::string& value);

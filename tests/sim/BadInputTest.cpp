@@ -1,0 +1,64 @@
+// Faulty input stops the run with an "Error" reply that names the scenario
+// and the input, and keeps the files of scenarios that ran before it.
+#include <gtest/gtest.h>
+
+#include "SimTestSupport.h"
+
+namespace tamsic::test {
+namespace {
+
+std::string Reply(const SimScenario& s) { return RunScenario({s}, "Base", "SEED1").reply; }
+
+SimScenario Base() {
+  SimScenario s("Base", 1, 20, 40);
+  s.text(F("txtNumIter"), "2").text(F("txtNumYear"), "3");
+  return s;
+}
+
+TEST(SimBadInput, AFunctionThatDoesNotCompile) {
+  SimScenario s = Base();
+  s.cell(F("gridRepRates1"), 1, 1, "=50*(N/K");
+  const std::string reply = Reply(s);
+  EXPECT_TRUE(reply.starts_with("Error: scenario \"Base\": RepRates1, P1, % Adult Females Breeding: the function "
+                                "\"=50*(N/K\" does not compile"))
+      << reply;
+}
+
+TEST(SimBadInput, ARateOutOfRange) {
+  SimScenario s = Base();
+  s.cell(F("gridMortFemales"), 1, 3, "120");
+  EXPECT_EQ(Reply(s), "Error: scenario \"Base\": MortFemales, P1, Mortality From Age 1 to 2 is 120, outside 0 .. 100");
+  SimScenario notANumber = Base();
+  notANumber.text(F("txtSexRatio"), "half");
+  EXPECT_EQ(Reply(notANumber), "Error: scenario \"Base\": SexRatio: \"half\" is neither a number nor a function");
+}
+
+TEST(SimBadInput, AFunctionThatGivesNoNumber) {
+  SimScenario s = Base();
+  s.cell(F("gridMortMales"), 1, 1, "=LN(0)");
+  EXPECT_EQ(Reply(s), "Error: scenario \"Base\": MortMales, P1, Mortality From Age 0 to 1, population 1, year 1: "
+                      "the function gives an infinite value");
+}
+
+TEST(SimBadInput, AMissingFileReference) {
+  SimScenario s = Base();
+  s.cell(F("gridCarryingCap1"), 1, 1, "file=capacity.txt");
+  const std::string reply = Reply(s);
+  EXPECT_TRUE(reply.starts_with("Error: scenario \"Base\": CarryingCap1, Carrying Capacity (K), P1: ")) << reply;
+  EXPECT_NE(reply.find("capacity.txt"), std::string::npos) << reply;
+}
+
+TEST(SimBadInput, NoPopulations) {
+  SimScenario s = Base();
+  s.text(F("txtNumPop"), "0");
+  EXPECT_EQ(Reply(s), "Error: scenario \"Base\": NumPop: a scenario needs at least one population (1 .. 50)");
+}
+
+TEST(SimBadInput, AScenarioNotInTheFileAfterOneThatRan) {
+  const RunOutput out = RunScenario({Base()}, "Base, Missing", "SEED1");
+  EXPECT_EQ(out.reply, "Error: there is no scenario \"Missing\" in the project file");
+  EXPECT_NE(out.files.find("Base;3;2;"), std::string::npos);  // Base's summary line was written
+}
+
+}  // namespace
+}  // namespace tamsic::test
