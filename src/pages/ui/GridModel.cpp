@@ -9,17 +9,31 @@
 namespace {
 const QColor kGrey(0xE0, 0xE0, 0xE0);
 const QColor kWhite(0xFF, 0xFF, 0xFF);
+
+bool SameHeadings(const tamsic::Grid& a, const tamsic::Grid& b) {
+  for (std::size_t c = 0; c < a.cols(); ++c)
+    if (a.at(0, c) != b.at(0, c)) return false;
+  for (std::size_t r = 0; r < a.rows(); ++r)
+    if (a.at(r, 0) != b.at(r, 0)) return false;
+  return true;
+}
 }  // namespace
 
 GridModel::GridModel(tamsic::Field field, bool headingRow, QObject* parent)
     : QAbstractTableModel(parent), field_(field), headingRow_(headingRow) {}
 
+// Headings change rarely; telling the view only when they do spares it
+// measuring every heading again on each change of scenario.
 void GridModel::setGrid(const tamsic::Grid& grid) {
+  if (grid == grid_) return;
   if (grid.rows() == grid_.rows() && grid.cols() == grid_.cols()) {
+    const bool headings = !SameHeadings(grid, grid_);
     grid_ = grid;
     if (rowCount() > 0 && columnCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
-    emit headerDataChanged(Qt::Horizontal, 0, std::max(columnCount() - 1, 0));
-    emit headerDataChanged(Qt::Vertical, 0, std::max(rowCount() - 1, 0));
+    if (headings) {
+      emit headerDataChanged(Qt::Horizontal, 0, std::max(columnCount() - 1, 0));
+      emit headerDataChanged(Qt::Vertical, 0, std::max(rowCount() - 1, 0));
+    }
     return;
   }
   beginResetModel();

@@ -58,7 +58,9 @@ GridView::GridView(const PageContext& context, tamsic::Field field, const char* 
   setCornerButtonEnabled(false);
   horizontalHeader()->setDefaultAlignment(Qt::Alignment(Qt::AlignCenter | Qt::TextWordWrap));
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-  verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  // One line per row: measuring every row's text again on each change costs more than it shows.
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + 6);
   // A grid is as large as its cells need and no larger; big ones scroll.
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
   hintOf = [hint](int, int) { return hint; };
