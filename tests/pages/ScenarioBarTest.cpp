@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QPushButton>
+#include <QToolButton>
 
 #include "PagesHarness.h"
 #include "pages/ui/frmNewScenario.h"

@@ -118,6 +118,7 @@ void InputPages::showPage(int index) {
   stack_->setCurrentIndex(index);
   copyBar_->setVisible(!tamsic::PopulationGridsOfPage(index).empty());
   title_->setText(pageTitle(index));
+  emit pageShown(index);
 }
 
 void InputPages::showScenario(std::size_t number) {

@@ -54,6 +54,7 @@ class InputPages : public QWidget {
  signals:
   void hintChanged(const QString& hint);
   void availabilityChanged();
+  void pageShown(int index);
   void scenarioShown(std::size_t number);
   // A scenario was renamed.
   void scenarioNamesChanged();

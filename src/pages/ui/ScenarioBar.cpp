@@ -4,6 +4,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
+#include <QToolButton>
 #include <QUndoStack>
 
 #include "model/ScenarioManagement.h"
@@ -19,18 +21,26 @@ QPushButton* Button(QWidget* parent, const char* name, const QString& caption, c
   button->setToolTip(hint);
   return button;
 }
+
+QToolButton* Arrow(QWidget* parent, const char* name, QStyle::StandardPixmap icon, const QString& hint) {
+  auto* button = new QToolButton(parent);
+  button->setObjectName(name);
+  button->setIcon(parent->style()->standardIcon(icon));
+  button->setToolTip(hint);
+  return button;
+}
 }  // namespace
 
 ScenarioBar::ScenarioBar(const PageContext& context, tamsic::ScenarioCollection& scenarios, InputPages& pages,
                          QUndoStack& undo, QWidget* parent)
     : QWidget(parent), context_(context), scenarios_(scenarios), pages_(pages), undo_(undo) {
   runDialog = [](QDialog& dialog) { return dialog.exec() == QDialog::Accepted; };
-  cmdPrevScene = Button(this, "cmdPrevScene", "<", context.text(1416));
+  cmdPrevScene = Arrow(this, "cmdPrevScene", QStyle::SP_ArrowBack, context.text(1416));
   cboScenario = new QComboBox(this);
   cboScenario->setObjectName("cboScenario");
   cboScenario->setToolTip(context.text(1424));
   cboScenario->setMinimumContentsLength(24);
-  cmdNextScene = Button(this, "cmdNextScene", ">", context.text(1417));
+  cmdNextScene = Arrow(this, "cmdNextScene", QStyle::SP_ArrowForward, context.text(1417));
   cmdAddScene = Button(this, "cmdAddScene", context.text(1418), context.text(1419));
   cmdDeleteScene = Button(this, "cmdDeleteScene", context.text(1420), context.text(1421));
   cmdSceneFrm = Button(this, "cmdSceneFrm", context.text(1422), context.text(1423));
@@ -53,8 +63,8 @@ void ScenarioBar::layOut() {
 }
 
 void ScenarioBar::wire() {
-  connect(cmdPrevScene, &QPushButton::clicked, this, &ScenarioBar::previous);
-  connect(cmdNextScene, &QPushButton::clicked, this, &ScenarioBar::next);
+  connect(cmdPrevScene, &QToolButton::clicked, this, &ScenarioBar::previous);
+  connect(cmdNextScene, &QToolButton::clicked, this, &ScenarioBar::next);
   connect(cmdAddScene, &QPushButton::clicked, this, &ScenarioBar::addScenarios);
   connect(cmdDeleteScene, &QPushButton::clicked, this, &ScenarioBar::deleteScenario);
   connect(cmdSceneFrm, &QPushButton::clicked, this, &ScenarioBar::reorderScenarios);
@@ -96,6 +106,7 @@ void ScenarioBar::next() {
 void ScenarioBar::listChanged(std::size_t show) {
   undo_.clear();
   pages_.showScenario(show);
+  emit scenarioListChanged();
 }
 
 void ScenarioBar::addScenarios() {

@@ -14,6 +14,7 @@ class InputPages;
 class QComboBox;
 class QDialog;
 class QPushButton;
+class QToolButton;
 class QUndoStack;
 
 class ScenarioBar : public QWidget {
@@ -35,12 +36,16 @@ class ScenarioBar : public QWidget {
   // Shows a dialog and answers whether it was accepted; tests put in their own.
   std::function<bool(QDialog& dialog)> runDialog;
 
-  QPushButton* cmdPrevScene;
+  QToolButton* cmdPrevScene;
   QComboBox* cboScenario;
-  QPushButton* cmdNextScene;
+  QToolButton* cmdNextScene;
   QPushButton* cmdAddScene;
   QPushButton* cmdDeleteScene;
   QPushButton* cmdSceneFrm;
+
+ signals:
+  // Scenarios were added, deleted or put in another order.
+  void scenarioListChanged();
 
  private:
   void layOut();

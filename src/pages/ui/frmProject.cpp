@@ -1,32 +1,22 @@
 #include "pages/ui/frmProject.h"
 
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QStackedWidget>
-#include <QStyle>
-#include <QToolButton>
+#include <QSignalBlocker>
+#include <QStatusBar>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 #include "app/ui/Program.h"
 #include "files/TextCodec.h"
+#include "pages/ui/InputPages.h"
+#include "pages/ui/ScenarioBar.h"
 
 namespace {
-
-// Each page's title number and the number of the hint on its link, in the
-// order of the links.
-struct PageLink {
-  int title;
-  int hint;
-};
-constexpr PageLink kPageLinks[frmProject::kPageCount] = {
-    {0, 1301},    {100, 1302},  {200, 1346},  {300, 1303},  {400, 1304},
-    {500, 1305},  {600, 1306},  {700, 1307},  {800, 1308},  {900, 1309},
-    {1000, 1310}, {1100, 1311}, {1200, 1312}, {1300, 1345}};
 
 constexpr int kUserNamePrompt = 1713;
 
@@ -39,14 +29,23 @@ std::string ToFile(const QString& text) { return tamsic::Utf8ToCp1252(text.toStd
 }  // namespace
 
 frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* parent)
-    : QWidget(parent), program_(program), state_(std::move(state)) {
+    : QWidget(parent),
+      program_(program),
+      state_(std::move(state)),
+      context_{program.strings, program.messages, engine_},
+      undo_(new QUndoStack(this)) {
   setObjectName("frmProject");
+  context_.showEquationDialogOnEquals = [this] { return program_.settings.showEquationDialogOnEquals != 0; };
+  inputPages_ = new InputPages(context_, state_.document.scenarios, *undo_, this);
+  stbProject_ = new QStatusBar(this);
+  stbProject_->setObjectName("stbProject");
+  stbProject_->setSizeGripEnabled(false);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(buildHeader());
   layout->addWidget(buildPageArea(), 1);
-  fillScenarioSelector();
+  layout->addWidget(stbProject_);
   wireSignals();
-  showScenario(1);
+  refreshLinks();
   refreshCaption();
 }
 
@@ -57,25 +56,12 @@ QWidget* frmProject::buildHeader() {
   txtProjectTitle_ = new QLineEdit(FromFile(state_.document.title), header);
   txtProjectTitle_->setObjectName("txtProjectTitle");
   txtProjectTitle_->setToolTip(text(1425));
-  cboScenario_ = new QComboBox(header);
-  cboScenario_->setObjectName("cboScenario");
-  cboScenario_->setToolTip(text(1424));
-  cboScenario_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  cmdPrevScene_ = new QToolButton(header);
-  cmdPrevScene_->setObjectName("cmdPrevScene");
-  cmdPrevScene_->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-  cmdPrevScene_->setToolTip(text(1416));
-  cmdNextScene_ = new QToolButton(header);
-  cmdNextScene_->setObjectName("cmdNextScene");
-  cmdNextScene_->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
-  cmdNextScene_->setToolTip(text(1417));
+  // The selector, previous and next, and adding, deleting and ordering scenarios.
+  scenarioBar_ = new ScenarioBar(context_, state_.document.scenarios, *inputPages_, *undo_, header);
   row->addWidget(new QLabel(text(1414), header));
-  row->addWidget(txtProjectTitle_, 2);
+  row->addWidget(txtProjectTitle_, 1);
   row->addSpacing(12);
-  row->addWidget(new QLabel(text(1415), header));
-  row->addWidget(cmdPrevScene_);
-  row->addWidget(cboScenario_, 1);
-  row->addWidget(cmdNextScene_);
+  row->addWidget(scenarioBar_, 2);
   return header;
 }
 
@@ -85,67 +71,56 @@ QWidget* frmProject::buildPageArea() {
   row->setContentsMargins(0, 0, 0, 0);
   hypInput_ = new QListWidget(area);
   hypInput_->setObjectName("hypInput");
-  pages_ = new QStackedWidget(area);
-  for (const PageLink& link : kPageLinks) {
-    auto* item = new QListWidgetItem(text(link.title), hypInput_);
-    item->setToolTip(text(link.hint));
-    auto* page = new QLabel(pages_);
-    page->setAlignment(Qt::AlignCenter);
-    page->setWordWrap(true);
-    page->setFrameShape(QFrame::StyledPanel);
-    pages_->addWidget(page);
+  for (int page = 0; page < kPageCount; ++page) {
+    auto* item = new QListWidgetItem(inputPages_->pageTitle(page), hypInput_);
+    item->setToolTip(inputPages_->linkHint(page));
   }
   hypInput_->setFixedWidth(hypInput_->sizeHintForColumn(0) + 2 * hypInput_->frameWidth() + 8);
   hypInput_->setCurrentRow(0);
   row->addWidget(hypInput_);
-  row->addWidget(pages_, 1);
+  row->addWidget(inputPages_, 1);
   return area;
 }
 
 void frmProject::wireSignals() {
   connect(txtProjectTitle_, &QLineEdit::textEdited, this, &frmProject::titleEdited);
-  connect(hypInput_, &QListWidget::currentRowChanged, pages_, &QStackedWidget::setCurrentIndex);
-  connect(cboScenario_, &QComboBox::currentIndexChanged, this,
-          [this](int index) { showScenario(static_cast<std::size_t>(index) + 1); });
-  connect(cmdPrevScene_, &QToolButton::clicked, this,
-          [this] { showScenario(currentScenario() - 1); });
-  connect(cmdNextScene_, &QToolButton::clicked, this,
-          [this] { showScenario(currentScenario() + 1); });
+  connect(hypInput_, &QListWidget::currentRowChanged, inputPages_, &InputPages::showPage);
+  connect(inputPages_, &InputPages::availabilityChanged, this, &frmProject::refreshLinks);
+  connect(inputPages_, &InputPages::hintChanged, stbProject_, [this](const QString& hint) {
+    stbProject_->showMessage(hint);
+  });
+  // Every edit, and every undo or redo of one, changes the project.
+  connect(undo_, &QUndoStack::indexChanged, this, [this] {
+    state_.MarkChanged();
+    refreshCaption();
+  });
+  connect(scenarioBar_, &ScenarioBar::scenarioListChanged, this, [this] {
+    state_.MarkChanged();
+    refreshCaption();
+  });
+  // Undo may show another page than the one chosen.
+  connect(inputPages_, &InputPages::pageShown, hypInput_, [this](int page) {
+    const QSignalBlocker quiet(hypInput_);
+    hypInput_->setCurrentRow(page);
+  });
 }
 
-void frmProject::fillScenarioSelector() {
-  const auto& scenarios = state_.document.scenarios;
-  for (std::size_t n = 1; n <= scenarios.Count(); ++n)
-    cboScenario_->addItem(FromFile(scenarios.Item(n).Text(tamsic::F("txtSceneName"))));
-}
-
-std::size_t frmProject::currentScenario() const {
-  return static_cast<std::size_t>(cboScenario_->currentIndex() + 1);
-}
+std::size_t frmProject::currentScenario() const { return inputPages_->currentScenario(); }
 
 void frmProject::showScenario(std::size_t number) {
-  const std::size_t count = state_.document.scenarios.Count();
-  if (number < 1 || number > count) return;
-  cboScenario_->setCurrentIndex(static_cast<int>(number) - 1);
-  cmdPrevScene_->setEnabled(number > 1);
-  cmdNextScene_->setEnabled(number < count);
-  refreshPages();
+  if (number < 1 || number > state_.document.scenarios.Count()) return;
+  inputPages_->showScenario(number);
 }
 
-void frmProject::refreshPages() {
-  // Until the input pages arrive, each page shows the scenario's essentials.
-  const tamsic::clsScenario& scenario = state_.document.scenarios.Item(currentScenario());
-  QString summary;
-  for (const auto& [caption, field] :
-       {std::pair{8, tamsic::F("txtSceneName")}, std::pair{9, tamsic::F("txtNumIter")},
-        std::pair{10, tamsic::F("txtNumYear")}, std::pair{15, tamsic::F("txtNumPop")}})
-    summary += QStringLiteral("<tr><td>%1</td><td><b>%2</b></td></tr>")
-                   .arg(text(caption).toHtmlEscaped(),
-                        FromFile(scenario.Text(field)).toHtmlEscaped());
-  for (int page = 0; page < kPageCount; ++page)
-    static_cast<QLabel*>(pages_->widget(page))
-        ->setText(QStringLiteral("<h2>%1</h2><table align='center' cellspacing='6'>%2</table>")
-                      .arg(text(kPageLinks[page].title).toHtmlEscaped(), summary));
+// Dispersal needs two populations and the catastrophes page a type of
+// catastrophe; a page that becomes unavailable while shown gives way to the first.
+void frmProject::refreshLinks() {
+  for (int page = 0; page < kPageCount; ++page) {
+    QListWidgetItem* link = hypInput_->item(page);
+    const bool available = inputPages_->pageAvailable(page);
+    link->setFlags(available ? link->flags() | Qt::ItemIsEnabled : link->flags() & ~Qt::ItemIsEnabled);
+  }
+  if (!inputPages_->pageAvailable(hypInput_->currentRow())) hypInput_->setCurrentRow(0);
 }
 
 void frmProject::refreshCaption() {

@@ -4,15 +4,19 @@
 // its file state; saving and the question before closing run through the
 // core's save flow.
 #include <QWidget>
+#include <memory>
 
+#include "engine/Engine.h"
 #include "files/ProjectSaveFlow.h"
+#include "pages/ui/PageContext.h"
 
 struct Program;
-class QComboBox;
+class InputPages;
 class QLineEdit;
 class QListWidget;
-class QStackedWidget;
-class QToolButton;
+class QStatusBar;
+class QUndoStack;
+class ScenarioBar;
 
 class frmProject : public QWidget {
   Q_OBJECT
@@ -46,8 +50,7 @@ class frmProject : public QWidget {
   QWidget* buildHeader();
   QWidget* buildPageArea();
   void wireSignals();
-  void fillScenarioSelector();
-  void refreshPages();
+  void refreshLinks();
   void refreshCaption();
   void titleEdited(const QString& text);
   bool afterSave(tamsic::SaveResult result);
@@ -57,10 +60,12 @@ class frmProject : public QWidget {
 
   Program& program_;
   tamsic::ProjectState state_;
+  tamsic::LibraryEngine engine_;
+  PageContext context_;
+  QUndoStack* undo_ = nullptr;
   QLineEdit* txtProjectTitle_ = nullptr;
-  QComboBox* cboScenario_ = nullptr;
-  QToolButton* cmdPrevScene_ = nullptr;
-  QToolButton* cmdNextScene_ = nullptr;
+  ScenarioBar* scenarioBar_ = nullptr;
   QListWidget* hypInput_ = nullptr;
-  QStackedWidget* pages_ = nullptr;
+  InputPages* inputPages_ = nullptr;
+  QStatusBar* stbProject_ = nullptr;
 };
