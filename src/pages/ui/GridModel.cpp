@@ -88,11 +88,11 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
   if (orientation == Qt::Horizontal) {
     const auto col = static_cast<std::size_t>(section + 1);
     if (!headingRow_ || grid_.rows() == 0 || col >= grid_.cols()) return {};
-    return FromRecord(grid_.at(0, col));
+    return shownHeading(grid_.at(0, col));
   }
   const auto row = static_cast<std::size_t>(section + firstRow());
   if (row >= grid_.rows()) return {};
-  return FromRecord(grid_.at(row, 0));
+  return shownHeading(grid_.at(row, 0));
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {

@@ -10,6 +10,7 @@
 
 #include "model/Grid.h"
 #include "model/ScenarioFields.h"
+#include "pages/ui/PageContext.h"
 
 enum class CellUse {
   Value,     // typed and checked
@@ -39,6 +40,8 @@ class GridModel : public QAbstractTableModel {
   std::function<CellUse(int row, int col)> cellUse = [](int, int) { return CellUse::Value; };
   std::function<QString(int row, int col)> computedText;
   std::function<QStringList(int row, int col)> choices;
+  // How a stored heading is shown; as stored unless the page translates it.
+  std::function<QString(const std::string& stored)> heading;
   // Answers true when the text must not be accepted (the user has been told why).
   std::function<bool(int row, int col, const std::string& text)> refuses = [](int, int, const std::string&) {
     return false;
@@ -58,6 +61,7 @@ class GridModel : public QAbstractTableModel {
 
  private:
   int firstRow() const { return headingRow_ ? 1 : 0; }
+  QString shownHeading(const std::string& stored) const { return heading ? heading(stored) : FromRecord(stored); }
   CellUse use(const QModelIndex& index) const { return cellUse(gridRow(index), gridCol(index)); }
 
   tamsic::Field field_;

@@ -80,15 +80,17 @@ void GridView::setGridEnabled(bool enabled) {
 QSize GridView::sizeHint() const {
   constexpr int kWidest = 1200;
   constexpr int kHighest = 600;
+  // Grids wider than this are likely to scroll sideways on a page of an
+  // ordinary window: leave room for the scroll bar below the last row.
+  constexpr int kScrollsSideways = 700;
   const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const int width = verticalHeader()->sizeHint().width() + horizontalHeader()->length() + 2 * frameWidth() + 2;
   const int height = horizontalHeader()->height() + verticalHeader()->length() + 2 * frameWidth() + 2;
-  // Room for the scroll bar that a grid too large in the other direction shows.
   return {std::min(width, kWidest) + (height > kHighest ? scrollBar : 0),
-          std::min(height, kHighest) + (width > kWidest ? scrollBar : 0)};
+          std::min(height, kHighest) + (width > kScrollsSideways ? scrollBar : 0)};
 }
 
-// Long headings wrap over up to three lines; columns are as wide as their
+// Long headings wrap over up to four lines; columns are as wide as their
 // longest word or their values need.
 void GridView::fitHeadings() {
   const QFontMetrics metrics = horizontalHeader()->fontMetrics();
@@ -100,10 +102,10 @@ void GridView::fitHeadings() {
     const int width = std::min(std::max({widest + 12, std::min(metrics.horizontalAdvance(heading) + 12, 130),
                                          sizeHintForColumn(c)}), 220);
     setColumnWidth(c, width);
-    const int needed = (metrics.horizontalAdvance(heading) + width - 13) / std::max(width - 12, 1);
-    lines = std::max(lines, std::min(needed, 3));
+    const QRect wrapped = metrics.boundingRect(QRect(0, 0, width - 10, 1000), Qt::TextWordWrap, heading);
+    lines = std::max(lines, std::min(wrapped.height() / metrics.lineSpacing(), 4));
   }
-  horizontalHeader()->setFixedHeight(metrics.lineSpacing() * lines + 10);
+  horizontalHeader()->setFixedHeight(metrics.lineSpacing() * lines + 14);
   updateGeometry();
 }
 

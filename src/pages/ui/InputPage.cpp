@@ -13,7 +13,8 @@
 InputPage::InputPage(const PageContext& context, int titleNumber, QWidget* parent)
     : QWidget(parent), context_(context), titleNumber_(titleNumber), bindings_([this] {
         if (!updating_) emit edited();
-      }) {}
+      }),
+      headings_(context) {}
 
 void InputPage::showRecord(const tamsic::clsScenario& record) {
   UpdateGuard guard(updating_);
@@ -55,6 +56,7 @@ QRadioButton* InputPage::option(const char* name, tamsic::Field field, int capti
 GridView* InputPage::gridView(const char* name, tamsic::Field field, int hint, bool headingRow) {
   auto* view = new GridView(context_, field, name, hint, headingRow, this);
   grids_.push_back(view);
+  view->grid()->heading = [this](const std::string& stored) { return headings_.shown(stored); };
   connect(view, &GridView::hintChanged, this, &InputPage::hintChanged);
   connect(view->grid(), &GridModel::committed, this, [this] {
     if (!updating_) emit edited();

@@ -8,6 +8,7 @@
 
 #include "model/clsScenario.h"
 #include "pages/ui/FieldBindings.h"
+#include "pages/ui/GridHeadings.h"
 #include "pages/ui/PageContext.h"
 
 class GridView;
@@ -56,5 +57,6 @@ class InputPage : public QWidget {
  private:
   int titleNumber_;
   FieldBindings bindings_;
+  GridHeadings headings_;
   std::vector<GridView*> grids_;
 };
