@@ -1,5 +1,6 @@
 // The commands that fill or transform many cells at once, the presets, the
 // density-dependent breeding function and "=" in a cell.
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -19,6 +20,7 @@ class PageHelpersTest : public QObject {
   void presetsAddNumberedVariables();
   void breedingFunctionFromTheReproductiveSystem();
   void equalsSignOpensTheEditorWhenAsked();
+  void stableAgesFillTheAgeGrids();
 };
 
 namespace {
@@ -198,6 +200,36 @@ void PageHelpersTest::equalsSignOpensTheEditorWhenAsked() {
   auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
   QVERIFY(editor);
   QCOMPARE(editor->text(), QString("="));
+}
+
+void PageHelpersTest::stableAgesFillTheAgeGrids() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  std::vector<std::size_t> asked;
+  h.context.stableAgeDistribution = [&](tamsic::clsScenario& record, std::size_t number) {
+    asked.push_back(number);
+    tamsic::Grid females = record.GetGrid(tamsic::F("gridInitPopFemale"));
+    females.at(1, 1) = "31";
+    record.SetGrid(tamsic::F("gridInitPopFemale"), females);
+    return std::optional<std::string>{};
+  };
+  auto* given = h.find<QAbstractButton>("optStartWith_1");
+  auto* stable = h.find<QAbstractButton>("optStartWith_0");
+  h.showPageOf(given);
+  given->click();
+  QVERIFY(asked.empty());
+  stable->click();
+  QCOMPARE(asked, std::vector<std::size_t>{1});
+  QCOMPARE(h.cell("gridInitPopFemale", 1, 1), std::string("31"));
+  QCOMPARE(h.grid("gridInitPopFemale")->grid()->indexAt(1, 1).data().toString(), QString("31"));
+
+  h.context.stableAgeDistribution = [](tamsic::clsScenario&, std::size_t) {
+    return std::optional<std::string>{"Error: the engine library could not be loaded"};
+  };
+  given->click();
+  h.box.expect("Error: the engine library could not be loaded");
+  stable->click();
+  QVERIFY(h.record().Truth(tamsic::F("optStartWith_0")));
 }
 
 QTEST_MAIN(PageHelpersTest)

@@ -164,11 +164,20 @@ void InputPages::commit(int page) {
   tamsic::AfterEdit(before, after);
   if (after == before) return;
   tamsic::WarnAboutRateFunctions(before, after, context_.messages);
+  spreadByStableAges(before, after);
   scenarios_.Item(current_) = after;
   if (after != stored) restorePages(after);
   else applyCrossPageRules(after);
   undo_.push(new RecordEditCommand(*this, current_, page, before, after));
   if (before.Text(tamsic::F("txtSceneName")) != after.Text(tamsic::F("txtSceneName"))) emit scenarioNamesChanged();
+}
+
+// Choosing the stable age distribution fills the numbers by age from it.
+void InputPages::spreadByStableAges(const tamsic::clsScenario& before, tamsic::clsScenario& after) {
+  const tamsic::Field stable = tamsic::F("optStartWith_0");
+  if (!after.Truth(stable) || before.Truth(stable) || !context_.stableAgeDistribution) return;
+  if (const auto error = context_.stableAgeDistribution(after, current_))
+    context_.messages.show(*error, tamsic::msg::kError, tamsic::MsgIcon::Critical);
 }
 
 void InputPages::copyInputValues(int from, bool allSections) {

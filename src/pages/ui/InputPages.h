@@ -65,6 +65,7 @@ class InputPages : public QWidget {
   void wire();
   void commit(int page);
   void copyInputValues(int from, bool allSections);
+  void spreadByStableAges(const tamsic::clsScenario& before, tamsic::clsScenario& after);
   void applyCrossPageRules(const tamsic::clsScenario& record);
 
   const PageContext& context_;

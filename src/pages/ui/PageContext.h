@@ -3,10 +3,12 @@
 // box, the engine for formula tests, and the user's setting for "=" in a cell.
 #include <QString>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "app/Messages.h"
 #include "engine/Engine.h"
+#include "model/clsScenario.h"
 
 struct PageContext {
   const tamsic::IStringTable& strings;
@@ -18,6 +20,9 @@ struct PageContext {
   std::function<void(const QString& cellText)> openEquationEditor;
   // Shows a function and its graph; empty until the preview window exists.
   std::function<void(const QString& function)> openFunctionPreview;
+  // Fills a record's initial numbers by age from the stable age distribution
+  // (the window saves the project for the engine); answers the error, if any.
+  std::function<std::optional<std::string>(tamsic::clsScenario& record, std::size_t number)> stableAgeDistribution;
 
   QString text(int number) const { return QString::fromStdString(strings.text(number)); }
 };

@@ -1,6 +1,8 @@
 #include "pages/ui/frmProject.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
+#include <filesystem>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
@@ -11,8 +13,12 @@
 #include <QUndoStack>
 #include <QVBoxLayout>
 
+#include "app/Errors.h"
 #include "app/ui/Program.h"
+#include "engine/WorkFile.h"
+#include "files/ProjectFile.h"
 #include "files/TextCodec.h"
+#include "pages/StableAgeDistribution.h"
 #include "pages/ui/InputPages.h"
 #include "pages/ui/ScenarioBar.h"
 
@@ -36,6 +42,9 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
       undo_(new QUndoStack(this)) {
   setObjectName("frmProject");
   context_.showEquationDialogOnEquals = [this] { return program_.settings.showEquationDialogOnEquals != 0; };
+  context_.stableAgeDistribution = [this](tamsic::clsScenario& record, std::size_t number) {
+    return stableAgeDistribution(record, number);
+  };
   inputPages_ = new InputPages(context_, state_.document.scenarios, *undo_, this);
   stbProject_ = new QStatusBar(this);
   stbProject_->setObjectName("stbProject");
@@ -202,6 +211,23 @@ int frmProject::chooseUserName() {
   const QString chosen =
       QInputDialog::getItem(this, windowTitle(), text(1703), names, 0, false, &ok);
   return ok ? static_cast<int>(names.indexOf(chosen)) : -1;
+}
+
+// The engine reads the scenario from a saved copy of the project that holds
+// the record as it is about to be stored.
+std::optional<std::string> frmProject::stableAgeDistribution(tamsic::clsScenario& record, std::size_t number) {
+  try {
+    tamsic::ProjectDocument copy = state_.document;
+    copy.scenarios.Item(number) = record;
+    const auto work = tamsic::CreateWorkFile(QCoreApplication::applicationDirPath().toStdString());
+    tamsic::SaveProject(copy, work.string(), program_.messages);
+    auto error = tamsic::ApplyStableAgeDistribution(record, number, work.string(), engine_);
+    std::error_code ignored;
+    std::filesystem::remove(work, ignored);
+    return error;
+  } catch (const tamsic::TamsicError& error) {
+    return error.what();
+  }
 }
 
 QString frmProject::text(int number) const {

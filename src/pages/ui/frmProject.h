@@ -57,6 +57,7 @@ class frmProject : public QWidget {
   // The user name chosen from the project's users; -1 when there are none or the user cancels.
   int chooseUserName();
   QString text(int number) const;
+  std::optional<std::string> stableAgeDistribution(tamsic::clsScenario& record, std::size_t number);
 
   Program& program_;
   tamsic::ProjectState state_;
