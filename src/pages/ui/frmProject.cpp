@@ -68,6 +68,7 @@ QWidget* frmProject::buildHeader() {
   // The selector, previous and next, and adding, deleting and ordering scenarios.
   scenarioBar_ = new ScenarioBar(context_, state_.document.scenarios, *inputPages_, *undo_, header);
   row->addWidget(new QLabel(text(1414), header));
+  txtProjectTitle_->setMinimumWidth(220);
   row->addWidget(txtProjectTitle_, 1);
   row->addSpacing(12);
   row->addWidget(scenarioBar_, 2);
