@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 
 #include "GuiTestSupport.h"
+#include "app/ui/frmNewProject.h"
 #include "app/ui/mdiMain.h"
 #include "pages/ui/frmProject.h"
 
@@ -50,6 +51,32 @@ class ProjectWindowTest : public QObject {
     QVERIFY(frame.openProject(folder.filePath("missing.tpj")) == nullptr);
     QVERIFY(t.box.allShown());
     QCOMPARE(t.box.shown.back().caption, t.textIn(3, 9103));
+  }
+
+  void newProjectDialogCreatesTheFolderOrSaysWhy() {
+    QTemporaryDir folder;
+    TestProgram t;
+    frmNewProject dialog(t.program);
+    auto* dir = dialog.findChild<QLineEdit*>("txtDir");
+    auto* name = dialog.findChild<QLineEdit*>("txtName");
+
+    dir->setText(folder.filePath("a/b"));
+    t.box.expect(t.textIn(1, 9107));
+    dialog.accept();
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+
+    WriteFile(folder.filePath("plain"), "x");
+    dir->setText(folder.filePath("plain/sub"));
+    QTest::keyClicks(name, "Trout");
+    t.box.expect(t.textIn(1, 9108));
+    dialog.accept();
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+
+    dir->setText(folder.filePath("a/b"));
+    dialog.accept();
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QVERIFY(QFileInfo(folder.filePath("a/b")).isDir());
+    QCOMPARE(dialog.request().name, QString("Trout"));
   }
 
   void openingRotatesTheBackups() {

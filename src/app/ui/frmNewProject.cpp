@@ -55,8 +55,10 @@ void frmNewProject::accept() {
     messages.show(messages.text(9107), tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation);
     return;
   }
-  if (txtDir_->text().trimmed().isEmpty()) {
-    messages.show(messages.text(9108), tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation);
+  const QString folder = txtDir_->text().trimmed();
+  if (folder.isEmpty() || !QDir().mkpath(folder)) {
+    messages.show(messages.text(9108) + "\n\n" + folder.toStdString(), tamsic::msg::kWarning,
+                  tamsic::MsgIcon::Exclamation);
     return;
   }
   QDialog::accept();

@@ -13,7 +13,7 @@ class frmNewProject : public QDialog {
   explicit frmNewProject(Program& program, QWidget* parent = nullptr);
 
   NewProjectRequest request() const;
-  // Refuses an empty name or folder with the reason.
+  // Creates the folder; refuses an empty name, or a folder that cannot be made, with the reason.
   void accept() override;
 
  private:

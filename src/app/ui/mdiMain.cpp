@@ -287,7 +287,6 @@ frmProject* mdiMain::openProject(const QString& path) {
 }
 
 frmProject* mdiMain::newProject(const NewProjectRequest& request) {
-  QDir().mkpath(request.folder);
   QDir::setCurrent(request.folder);
   tamsic::ProjectState state;
   state.document = tamsic::NewProject(request.name.trimmed().toStdString(), request.user.trimmed().toStdString());

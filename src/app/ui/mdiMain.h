@@ -22,6 +22,7 @@ class mdiMain : public QMainWindow {
   // answers the window, or null when the file is missing, not a project or
   // could not be read (the user has been told why).
   frmProject* openProject(const QString& path);
+  // A window on a new, not yet saved project in an existing folder, which becomes the current one.
   frmProject* newProject(const NewProjectRequest& request);
   frmProject* activeProject() const;
   QMdiArea* mdiArea() const { return mdiArea_; }
