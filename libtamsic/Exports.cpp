@@ -9,6 +9,7 @@
 #include "GraphValues.h"
 #include "formula/FileSeries.h"
 #include "formula/Formula.h"
+#include "sim/CheckIn.h"
 #include "sim/RunMonitor.h"
 #include "sim/Runner.h"
 #include "tamsic.h"
@@ -65,16 +66,16 @@ void tamsicsim(TamsicVariant* result, const int16_t* path, int32_t pathCount, in
   });
 }
 
-void tcheckin(TamsicVariant* result, const int16_t*, int32_t, int32_t) {
-  Answer(result, [] { return kNoSimulation; });
+void tcheckin(TamsicVariant* result, const int16_t* text, int32_t count, int32_t flag) {
+  Answer(result, [&] { return tamsic::sim::CheckIn(TextFromCodes(text, count), flag); });
 }
 
-void agedist(TamsicVariant* result, int16_t) {
-  Answer(result, [] { return kNoSimulation; });
+void agedist(TamsicVariant* result, int16_t size) {
+  Answer(result, [&] { return tamsic::sim::AgeDistribution(size); });
 }
 
-void detGraphValues(TamsicVariant* result, const int16_t*, int32_t, int32_t) {
-  Answer(result, [] { return kNoSimulation; });
+void detGraphValues(TamsicVariant* result, const int16_t* text, int32_t count, int32_t years) {
+  Answer(result, [&] { return tamsic::sim::DeterministicValues(TextFromCodes(text, count), years); });
 }
 
 void findpolyg(TamsicVariant* result, int16_t, const double*) {
@@ -95,7 +96,10 @@ void formulaGraphValues(TamsicVariant* result, const int16_t* formula, int32_t c
 }
 
 void tamsdllclose(TamsicVariant* result) {
-  Answer(result, [] { return "Message: closed"; });
+  Answer(result, [] {
+    tamsic::sim::ForgetCheckIn();
+    return "Message: closed";
+  });
 }
 
 void tamsicWindowClose(TamsicVariant* result) {

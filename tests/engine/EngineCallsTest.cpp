@@ -138,16 +138,17 @@ TEST(EngineCalls, FormulaCallsFromSeveralThreads) {
   EXPECT_EQ(mismatches, 0);
 }
 
-TEST(EngineCalls, SimulationCallsSayTheyAreNotAvailable) {
+TEST(EngineCalls, SimulationCallsWithoutAProject) {
   LibraryEngine engine;
-  const std::string notYet = "Error: the simulation is not available in this build";
   EXPECT_EQ(engine.tamsicsim("/tmp/no-such-project.tpj", "{A}", ""),
             "Error: the project file /tmp/no-such-project.tpj does not exist");
   EXPECT_TRUE(engine.tamsicsim("", "", "").starts_with("Error: "));
-  EXPECT_EQ(engine.tcheckin("/tmp/p.tpj {1}", 0), notYet);
-  EXPECT_EQ(engine.agedist(100), notYet);
-  EXPECT_EQ(engine.detGraphValues("", 0), notYet);
-  EXPECT_EQ(engine.findpolyg(2, {50, 40, 0, 10}), notYet);
+  EXPECT_EQ(engine.tcheckin("/tmp/no-such-project.tpj {1}", 0),
+            "Error: the project file /tmp/no-such-project.tpj does not exist");
+  const std::string noScenario = "Error: no scenario has been checked in yet (tcheckin)";
+  EXPECT_EQ(engine.agedist(100), noScenario);
+  EXPECT_EQ(engine.detGraphValues("", 0), noScenario);
+  EXPECT_EQ(engine.findpolyg(2, {50, 40, 0, 10}), "Error: the simulation is not available in this build");
 }
 
 TEST(EngineCalls, ProgressCancelAndClose) {

@@ -119,7 +119,7 @@ SimScenario& SimScenario::everyPopulation(Field grid, std::size_t index, const s
   return *this;
 }
 
-RunOutput RunScenario(const std::vector<SimScenario>& scenarios, const std::string& name, const std::string& options) {
+std::filesystem::path SaveTestProject(const std::vector<SimScenario>& scenarios) {
   const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
   const std::filesystem::path folder = std::filesystem::temp_directory_path() /
                                        ("tamsic-sim-" + std::to_string(::getpid()) + "-" + info->name());
@@ -132,6 +132,11 @@ RunOutput RunScenario(const std::vector<SimScenario>& scenarios, const std::stri
   project.title = "T";
   for (const SimScenario& s : scenarios) project.scenarios.Add(s.scenario());
   SaveProject(project, (folder / "T.tpj").string(), messages);
+  return folder;
+}
+
+RunOutput RunScenario(const std::vector<SimScenario>& scenarios, const std::string& name, const std::string& options) {
+  const std::filesystem::path folder = SaveTestProject(scenarios);
   const auto previous = std::filesystem::current_path();
   std::filesystem::current_path(folder);
   RunOutput out;

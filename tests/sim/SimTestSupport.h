@@ -42,6 +42,9 @@ struct RunOutput {
   std::string files;  // .dat, .run and .out joined, for comparisons
 };
 
+// Saves the scenarios as project "T" (T.tpj) in a fresh folder, which the caller removes.
+std::filesystem::path SaveTestProject(const std::vector<SimScenario>& scenarios);
+
 // Saves the scenarios as project "T" in a fresh folder, runs the named one there and reads its files.
 RunOutput RunScenario(const std::vector<SimScenario>& scenarios, const std::string& name, const std::string& options);
 
