@@ -183,6 +183,26 @@ class ProjectWindowTest : public QObject {
     QCOMPARE(project->windowTitle(), QString("Unnamed Tamsic Project - not previously saved"));
   }
 
+  void tilingSharesTheFrameWithoutOverlap() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    frame.show();
+    frame.newProject({folder.path(), "Trout", "Ann"});
+    frame.newProject({folder.path(), "Salmon", "Ann"});
+    const QRect space = frame.mdiArea()->viewport()->rect();
+    const auto windows = frame.mdiArea()->subWindowList();
+
+    frame.findChild<QAction*>("mniTileV")->trigger();
+    QCOMPARE(windows[0]->geometry(), QRect(0, 0, space.width() / 2, space.height()));
+    QCOMPARE(windows[1]->geometry().right(), space.right());
+
+    frame.findChild<QAction*>("mniTileH")->trigger();
+    QCOMPARE(windows[0]->geometry(), QRect(0, 0, space.width(), space.height() / 2));
+    QCOMPARE(windows[1]->geometry().bottom(), space.bottom());
+    QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
+  }
+
   void closingAsksForChangedProjectsAndThenClosesTheEngine() {
     QTemporaryDir folder;
     TestProgram t;
