@@ -21,6 +21,7 @@ class PageHelpersTest : public QObject {
   void breedingFunctionFromTheReproductiveSystem();
   void equalsSignOpensTheEditorWhenAsked();
   void stableAgesFillTheAgeGrids();
+  void catastropheScopeByItsFirstLetter();
 };
 
 namespace {
@@ -230,6 +231,20 @@ void PageHelpersTest::stableAgesFillTheAgeGrids() {
   h.box.expect("Error: the engine library could not be loaded");
   stable->click();
   QVERIFY(h.record().Truth(tamsic::F("optStartWith_0")));
+}
+
+void PageHelpersTest::catastropheScopeByItsFirstLetter() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  GridView* scope = h.grid("gridCatastrophes1");
+  h.showPageOf(scope);
+  scope->setFocus();
+  scope->setCurrentIndex(scope->grid()->indexAt(1, 1));
+  QTest::keyClicks(scope, "g");
+  QCOMPARE(h.cell("gridCatastrophes1", 1, 1), std::string("Global"));
+  QTest::keyClicks(scope, "L");
+  QCOMPARE(h.cell("gridCatastrophes1", 1, 1), std::string("Local"));
+  QCOMPARE(h.undo.count(), 2);
 }
 
 QTEST_MAIN(PageHelpersTest)

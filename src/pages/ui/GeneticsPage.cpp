@@ -60,8 +60,7 @@ void GeneticsPage::layOut() {
   auto* loci = new QFormLayout;
   loci->addRow(label(1342), valtxtGenMgtNumNeutralLoci);
 
-  // Each box for a pair (a group of radio buttons in one layout) keeps the
-  // pair's buttons exclusive of the other group's.
+  // Radio buttons exclude their siblings only: the kinship pair gets a parent of its own.
   auto* kinship = new QWidget(this);
   auto* kinshipLayout = new QHBoxLayout(kinship);
   kinshipLayout->setContentsMargins(20, 0, 0, 0);

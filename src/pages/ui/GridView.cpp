@@ -53,7 +53,9 @@ GridView::GridView(const PageContext& context, tamsic::Field field, const char* 
   setToolTip(context.text(hint));
   setModel(model_);
   setItemDelegate(new ChoiceDelegate(model_, this));
-  setEditTriggers(QAbstractItemView::AllEditTriggers);
+  // Typing starts an edit; merely moving onto a cell does not, so that the arrow keys move between cells.
+  setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
+                  QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setCornerButtonEnabled(false);
   horizontalHeader()->setDefaultAlignment(Qt::Alignment(Qt::AlignCenter | Qt::TextWordWrap));
