@@ -1,0 +1,68 @@
+// Times a whole run of a project's first scenario through the engine's run
+// entry, as tamsicsim makes it, and reports wall time, individual-years per
+// second (individuals alive each year, summed over years and iterations)
+// and peak memory.
+//   bench_sim PROJECT.tpj [THREADS]
+#include <sys/resource.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <vector>
+
+#include "sim/Runner.h"
+
+namespace {
+
+// Sum over years 1..Y of mean N[all] times the iterations, from the yearly data of the last block.
+double IndividualYears(const std::string& dat, const std::string& scenario, int iterations) {
+  std::ifstream in(dat);
+  std::string line;
+  while (std::getline(in, line) && line != scenario + "\r") {
+  }
+  double sum = 0.0;
+  std::vector<double> block;
+  while (std::getline(in, line)) {
+    std::istringstream fields(line);
+    std::string year, cell;
+    std::getline(fields, year, ';');
+    for (int f = 1; f <= 12; ++f) std::getline(fields, cell, ';');
+    if (std::stoi(year) == 0) block.clear();
+    block.push_back(std::stod(cell));
+  }
+  for (std::size_t y = 1; y < block.size(); ++y) sum += block[y];
+  return sum * iterations;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2) {
+    std::cerr << "usage: bench_sim PROJECT.tpj [THREADS]\n";
+    return 2;
+  }
+  const std::filesystem::path project = std::filesystem::absolute(argv[1]);
+  const std::string threads = argc > 2 ? argv[2] : "0";
+  const std::string name = project.stem().string();
+  const auto folder = std::filesystem::temp_directory_path() / ("tamsic-bench-" + name);
+  std::filesystem::create_directories(folder);
+  std::filesystem::current_path(folder);
+  const auto start = std::chrono::steady_clock::now();
+  const std::string reply = tamsic::sim::RunScenarios(project.string(), "{" + name + "}", "SEED1;THREADS" + threads);
+  const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  if (!reply.starts_with("Message")) {
+    std::cerr << reply << "\n";
+    return 1;
+  }
+  // The benchmark projects have one population (R1, R2) or a metapopulation block last (R3).
+  const double years = IndividualYears((folder / (name + "_" + name + ".dat")).string(), name, 500);
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  std::cout << name << " threads " << threads << ": " << seconds << " s, " << years / seconds / 1e6
+            << " million individual-years per second (" << years / 1e6 << " million), peak memory "
+            << usage.ru_maxrss / 1024 << " MB\n";
+  std::filesystem::remove_all(folder);
+  return 0;
+}
