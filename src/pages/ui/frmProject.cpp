@@ -52,10 +52,6 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(buildHeader());
   layout->addWidget(buildPageArea(), 1);
-  stbProject_ = new QStatusBar(this);
-  stbProject_->setObjectName("stbProject");
-  stbProject_->setSizeGripEnabled(false);
-  layout->addWidget(stbProject_);
   layout->addWidget(stbProject_);
   wireSignals();
   refreshLinks();
@@ -85,7 +81,6 @@ QWidget* frmProject::buildPageArea() {
   row->setContentsMargins(0, 0, 0, 0);
   hypInput_ = new QListWidget(area);
   hypInput_->setObjectName("hypInput");
-  hypInput_->setMouseTracking(true);
   for (int page = 0; page < kPageCount; ++page) {
     auto* item = new QListWidgetItem(inputPages_->pageTitle(page), hypInput_);
     item->setToolTip(inputPages_->linkHint(page));
