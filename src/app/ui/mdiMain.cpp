@@ -5,10 +5,12 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QScreen>
 #include <QToolBar>
 
 #include "app/Errors.h"
@@ -54,7 +56,8 @@ mdiMain::mdiMain(Program& program, QWidget* parent) : QMainWindow(parent), progr
   updateCommands();
   const QString point = QLocale().decimalPoint();
   program_.decimalSeparator = point == QStringLiteral(",") ? ',' : '.';
-  resize(1100, 720);
+  if (const QScreen* screen = QGuiApplication::primaryScreen())
+    resize(screen->availableGeometry().size() * 95 / 100);
 }
 
 QAction* mdiMain::action(const char* name, int caption) {
@@ -299,10 +302,13 @@ frmProject* mdiMain::addProjectWindow(frmProject* window) {
   QMdiSubWindow* sub = mdiArea_->addSubWindow(window);
   sub->setAttribute(Qt::WA_DeleteOnClose);
   connect(window, &frmProject::saved, this, &mdiMain::projectSaved);
-  // Each new window a step down and right of the last, always wholly inside the frame.
-  const int step = 24 * ((mdiArea_->subWindowList().size() - 1) % 5);
-  sub->setGeometry(step, step, mdiArea_->viewport()->width() * 85 / 100,
-                   mdiArea_->viewport()->height() * 85 / 100);
+  // Each new window a step down and right of the last, wide enough for its
+  // contents (long translated captions) as far as the frame allows.
+  const QSize space = mdiArea_->viewport()->size();
+  const QSize wanted = (space * 85 / 100).expandedTo(sub->minimumSizeHint()).boundedTo(space);
+  const int step = std::min(24 * static_cast<int>((mdiArea_->subWindowList().size() - 1) % 5),
+                            std::min(space.width() - wanted.width(), space.height() - wanted.height()));
+  sub->setGeometry(step, step, wanted.width(), wanted.height());
   sub->show();
   mdiArea_->setActiveSubWindow(sub);
   updateCommands();
