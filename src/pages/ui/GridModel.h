@@ -29,7 +29,6 @@ class GridModel : public QAbstractTableModel {
   // Replaces the whole grid; same shape keeps the view's current cell.
   void setGrid(const tamsic::Grid& grid);
   void setEnabled(bool enabled);
-  bool isEnabled() const { return enabled_; }
 
   // Grid coordinates (headings included) of a model index, and back.
   int gridRow(const QModelIndex& index) const { return index.row() + firstRow(); }

@@ -23,7 +23,6 @@ class InputPage : public QWidget {
  public:
   InputPage(const PageContext& context, int titleNumber, QWidget* parent = nullptr);
 
-  int titleNumber() const { return titleNumber_; }
   QString title() const { return context_.text(titleNumber_); }
 
   virtual void showRecord(const tamsic::clsScenario& record);
@@ -31,7 +30,6 @@ class InputPage : public QWidget {
   // Greys out and disables what the values on the page rule out.
   virtual void applyEnabling() {}
 
-  const std::vector<GridView*>& grids() const { return grids_; }
   // Puts a text into one of the page's boxes as if the user had typed it.
   void enter(QLineEdit* box, const QString& text) { bindings_.enter(box, text); }
 
