@@ -5,6 +5,8 @@
 
 #include "PagesHarness.h"
 #include "files/ProjectFile.h"
+#include "pages/ui/frmNewScenario.h"
+#include "pages/ui/frmScenarios.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
@@ -26,6 +28,14 @@ int main(int argc, char** argv) {
     QTest::qWait(50);
     window.grab().save(QString("%1/page%2.png").arg(argv[2]).arg(p, 2, 10, QChar('0')));
   }
+  frmNewScenario add(h.context, h.scenarios, 1);
+  add.show();
+  QTest::qWait(50);
+  add.grab().save(QString("%1/dialog-new.png").arg(argv[2]));
+  frmScenarios order(h.context, h.scenarios, 1);
+  order.show();
+  QTest::qWait(50);
+  order.grab().save(QString("%1/dialog-order.png").arg(argv[2]));
   h.pages.release();  // owned by the window now
   h.bar.release();
   return 0;

@@ -1,6 +1,6 @@
 // Adding, deleting, renaming, reordering and moving between scenarios.
 #include <QComboBox>
-#include <QListWidget>
+#include <QTableWidget>
 #include <QPushButton>
 #include <QToolButton>
 

@@ -4,7 +4,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QHeaderView>
+#include <QTableWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -15,11 +16,18 @@ frmNewScenario::frmNewScenario(const PageContext& context, const tamsic::Scenari
     : QDialog(parent) {
   setObjectName("frmNewScenario");
   setWindowTitle(context.text(6000));
-  lstTemplates = new QListWidget(this);
+  lstTemplates = new QTableWidget(static_cast<int>(scenarios.Count()), 1, this);
   lstTemplates->setObjectName("lstTemplates");
+  lstTemplates->setHorizontalHeaderLabels({context.text(6002)});
+  lstTemplates->horizontalHeader()->setStretchLastSection(true);
+  lstTemplates->verticalHeader()->hide();
+  lstTemplates->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  lstTemplates->setSelectionBehavior(QAbstractItemView::SelectRows);
+  lstTemplates->setSelectionMode(QAbstractItemView::SingleSelection);
   for (std::size_t n = 1; n <= scenarios.Count(); ++n)
-    lstTemplates->addItem(FromRecord(scenarios.Item(n).Text(tamsic::F("txtSceneName"))));
-  lstTemplates->setCurrentRow(static_cast<int>(tamsic::ProposedTemplate(scenarios, current)) - 1);
+    lstTemplates->setItem(static_cast<int>(n) - 1, 0,
+                          new QTableWidgetItem(FromRecord(scenarios.Item(n).Text(tamsic::F("txtSceneName")))));
+  lstTemplates->setCurrentCell(static_cast<int>(tamsic::ProposedTemplate(scenarios, current)) - 1, 0);
   txtNumCreate = new QLineEdit("1", this);
   txtNumCreate->setObjectName("txtNumCreate");
   txtNumCreate->setToolTip(context.text(6007));

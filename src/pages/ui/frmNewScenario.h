@@ -8,7 +8,7 @@
 #include "pages/ui/PageContext.h"
 
 class QLineEdit;
-class QListWidget;
+class QTableWidget;
 
 class frmNewScenario : public QDialog {
   Q_OBJECT
@@ -20,6 +20,6 @@ class frmNewScenario : public QDialog {
   // The number typed, or 0 when it is not a whole number from 1 to 100.
   int count() const;
 
-  QListWidget* lstTemplates;
+  QTableWidget* lstTemplates;
   QLineEdit* txtNumCreate;
 };
