@@ -14,6 +14,7 @@ class PageChecksTest : public QObject {
   void undoAndRedoAGridEdit();
   void undoFollowsTheEditAcrossPages();
   void undoOfACountRestoresTheGrids();
+  void valuesBeingTypedAreStoredBeforeASave();
 };
 
 void PageChecksTest::textBoxes_data() {
@@ -183,6 +184,30 @@ void PageChecksTest::undoOfACountRestoresTheGrids() {
   QCOMPARE(h.grid("gridMortFemales")->grid()->rowCount(), 3);
   QCOMPARE(h.grid("gridMortFemales")->grid()->columnCount(), 6);
   QCOMPARE(h.find<QLineEdit>("txtNumPop")->text(), QString("3"));
+}
+
+void PageChecksTest::valuesBeingTypedAreStoredBeforeASave() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  QLineEdit* years = h.find<QLineEdit>("txtNumYear");
+  years->setFocus();
+  years->selectAll();
+  QTest::keyClicks(years, "300");
+  QCOMPARE(h.record().Text(tamsic::F("txtNumYear")), std::string("100"));
+  h.pages->commitPending();
+  QCOMPARE(h.record().Text(tamsic::F("txtNumYear")), std::string("300"));
+
+  GridView* view = h.grid("gridCarryingCap1");
+  h.showPageOf(view);
+  view->setFocus();
+  view->setCurrentIndex(view->grid()->indexAt(1, 1));
+  view->edit(view->currentIndex());
+  auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  QVERIFY(editor);
+  editor->end(false);
+  QTest::keyClicks(editor, "0");
+  h.pages->commitPending();
+  QTRY_COMPARE(h.cell("gridCarryingCap1", 1, 1), std::string("3000"));
 }
 
 QTEST_MAIN(PageChecksTest)

@@ -132,6 +132,11 @@ void InputPages::reload() {
   showScenario(current_);
 }
 
+void InputPages::commitPending() {
+  QWidget* focus = QApplication::focusWidget();
+  if (focus && isAncestorOf(focus)) focus->clearFocus();
+}
+
 void InputPages::storePages(tamsic::clsScenario& record) const {
   for (InputPage* page : pages_) page->storeInto(record);
   record.usingformula = tamsic::AnyInputIsFunction(record);

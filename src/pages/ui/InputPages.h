@@ -44,6 +44,10 @@ class InputPages : public QWidget {
   // Shows the current scenario again after the list changed under it.
   void reload();
 
+  // A box or cell being typed in has not been left yet; before a save or a
+  // run, leaving it checks and stores what it holds.
+  void commitPending();
+
   // Record <-> pages, every field.
   void storePages(tamsic::clsScenario& record) const;
   void restorePages(const tamsic::clsScenario& record);
