@@ -144,10 +144,12 @@ void frmProject::titleEdited(const QString& title) {
 }
 
 bool frmProject::save() {
+  inputPages_->commitPending();
   return afterSave(tamsic::FunctionSave(state_, program_.messages, program_.saveDialog));
 }
 
 bool frmProject::saveAs() {
+  inputPages_->commitPending();
   return afterSave(tamsic::FunctionSaveAs(state_, program_.messages, program_.saveDialog));
 }
 
