@@ -38,8 +38,10 @@ std::uint32_t GenomePool::addFounder(std::uint8_t& lethals) {
   std::uint32_t* out = &alleles_[slot * stride_];
   const std::uint32_t first = nextAllele_;
   nextAllele_ += 2;
-  std::fill(out, out + loci_, first);
-  std::fill(out + loci_, out + stride_, first + 1);
+  for (std::size_t l = 0; l < loci_; ++l) {
+    out[2 * l] = first;
+    out[2 * l + 1] = first + 1;
+  }
   int count = 0;
   for (int l = shape_.ibdLoci; l < shape_.loci(); ++l) count += lethal(first, l) + lethal(first + 1, l);
   lethals = static_cast<std::uint8_t>(std::min(count, 255));
@@ -50,28 +52,30 @@ Newborn GenomePool::addChild(std::uint32_t dam, std::uint32_t sire, Random& rand
   const std::uint32_t slot = take();
   const std::uint32_t* mother = &alleles_[dam * stride_];
   const std::uint32_t* father = &alleles_[sire * stride_];
-  std::uint32_t* maternal = &alleles_[slot * stride_];
-  std::uint32_t* paternal = maternal + loci_;
+  std::uint32_t* out = &alleles_[slot * stride_];
   // One random bit per locus and parent says which of the parent's two alleles passes on.
+  int identical = 0;
   for (std::size_t base = 0; base < loci_; base += 64) {
     const std::uint64_t fromDam = random.bits64();
     const std::uint64_t fromSire = random.bits64();
     const std::size_t end = std::min(loci_, base + 64);
     for (std::size_t l = base; l < end; ++l) {
       const std::size_t bit = l - base;
-      maternal[l] = mother[l + ((fromDam >> bit) & 1u) * loci_];
-      paternal[l] = father[l + ((fromSire >> bit) & 1u) * loci_];
+      const std::uint32_t m = mother[2 * l + ((fromDam >> bit) & 1u)];
+      const std::uint32_t p = father[2 * l + ((fromSire >> bit) & 1u)];
+      out[2 * l] = m;
+      out[2 * l + 1] = p;
+      identical += l < static_cast<std::size_t>(shape_.ibdLoci) && m == p;
     }
   }
-  int identical = 0;
-  for (int l = 0; l < shape_.ibdLoci; ++l) identical += maternal[l] == paternal[l];
   Newborn child{slot, static_cast<float>(identical) / static_cast<float>(shape_.ibdLoci), 0, true};
   int lethals = 0;
   for (int l = shape_.ibdLoci; l < shape_.loci(); ++l) {
-    const bool m = lethal(maternal[l], l);
-    const bool p = lethal(paternal[l], l);
-    lethals += m + p;
-    if (m && maternal[l] == paternal[l]) child.viable = false;
+    const std::uint32_t m = out[2 * l];
+    const std::uint32_t p = out[2 * l + 1];
+    const bool lethalM = lethal(m, l);
+    lethals += lethalM + lethal(p, l);
+    if (lethalM && m == p) child.viable = false;
   }
   child.lethals = static_cast<std::uint8_t>(std::min(lethals, 255));
   return child;
@@ -83,7 +87,7 @@ double GenomePool::kinship(std::uint32_t a, std::uint32_t b) const {
   int shared = 0;
   for (int l = 0; l < shape_.ibdLoci; ++l)
     for (int i = 0; i < 2; ++i)
-      for (int j = 0; j < 2; ++j) shared += x[l + i * loci_] == y[l + j * loci_];
+      for (int j = 0; j < 2; ++j) shared += x[2 * l + i] == y[2 * l + j];
   return shared / (4.0 * shape_.ibdLoci);
 }
 

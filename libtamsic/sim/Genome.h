@@ -7,7 +7,9 @@
 // the lethalLoci after them carry recessive lethals: founder allele h is
 // lethal at lethal locus l when a hash of (h, l, seed) falls below the
 // lethal share, so no table of lethal alleles is stored. Slots of the dead
-// are reused, so a year allocates nothing once the pool has grown.
+// are reused, so a year allocates nothing once the pool has grown. The two
+// alleles of a locus sit side by side and the neutral loci come first, so
+// that the census reads a few adjacent bytes of each genome.
 #include <cstdint>
 #include <vector>
 
@@ -41,8 +43,9 @@ class GenomePool {
   void release(std::uint32_t slot) { free_.push_back(slot); }
 
   // Allele of haplotype 0 (maternal) or 1 (paternal) at a locus.
+  const std::uint32_t* alleles(std::uint32_t slot) const { return &alleles_[static_cast<std::size_t>(slot) * stride_]; }
   std::uint32_t allele(std::uint32_t slot, int haplotype, int locus) const {
-    return alleles_[static_cast<std::size_t>(slot) * stride_ + haplotype * loci_ + locus];
+    return alleles_[static_cast<std::size_t>(slot) * stride_ + 2 * static_cast<std::size_t>(locus) + haplotype];
   }
   // Kinship from shared alleles at the identity-by-descent loci.
   double kinship(std::uint32_t a, std::uint32_t b) const;

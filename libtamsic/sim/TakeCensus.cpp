@@ -23,33 +23,37 @@ void ClearIfExtinct(const Model& m, World& world, PopulationState& pop) {
 }
 
 // Expected heterozygosity and alleles per locus over the neutral loci of
-// the members of the given populations.
+// the members of the given populations. The sum of squared counts grows by
+// 2c + 1 when a count c grows by one, so no list of alleles seen is needed;
+// a second pass clears the counts.
 void Genetics(World& world, int firstPop, int endPop, Census& out) {
   const GenomePool& g = world.genomes;
-  const int loci = g.shape().neutralLoci;
+  const auto loci = static_cast<std::size_t>(g.shape().neutralLoci);
   const std::size_t alleles = g.alleleCount();
-  world.alleleCounts.resize(static_cast<std::size_t>(loci) * alleles);
-  std::vector<std::uint32_t>& touched = world.scratchA;
-  touched.clear();
-  long n = 0;
+  world.alleleCounts.resize(loci * alleles);
+  std::uint32_t* counts = world.alleleCounts.data();
+  double squares = 0.0;
+  long distinct = 0, n = 0;
   for (int p = firstPop; p < endPop; ++p)
     for (const Individual& ind : world.pops[static_cast<std::size_t>(p)].members) {
       ++n;
-      for (int l = 0; l < loci; ++l)
-        for (int h = 0; h < 2; ++h) {
-          const std::size_t k = static_cast<std::size_t>(l) * alleles + g.allele(ind.genome, h, l);
-          if (world.alleleCounts[k]++ == 0) touched.push_back(static_cast<std::uint32_t>(k));
-        }
+      const std::uint32_t* genome = g.alleles(ind.genome);
+      for (std::size_t l = 0; l < 2 * loci; ++l) {
+        std::uint32_t& c = counts[(l / 2) * alleles + genome[l]];
+        squares += 2.0 * c + 1.0;
+        distinct += c == 0;
+        ++c;
+      }
+    }
+  for (int p = firstPop; p < endPop; ++p)
+    for (const Individual& ind : world.pops[static_cast<std::size_t>(p)].members) {
+      const std::uint32_t* genome = g.alleles(ind.genome);
+      for (std::size_t l = 0; l < 2 * loci; ++l) counts[(l / 2) * alleles + genome[l]] = 0;
     }
   if (n == 0) return;
-  double homozygosity = 0.0;
-  for (std::uint32_t k : touched) {
-    const double share = world.alleleCounts[k] / (2.0 * static_cast<double>(n));
-    homozygosity += share * share;
-    world.alleleCounts[k] = 0;
-  }
-  out.geneDiversity = static_cast<float>(1.0 - homozygosity / loci);
-  out.alleles = static_cast<float>(static_cast<double>(touched.size()) / loci);
+  const double copies = 2.0 * static_cast<double>(n);
+  out.geneDiversity = static_cast<float>(1.0 - squares / (copies * copies) / static_cast<double>(loci));
+  out.alleles = static_cast<float>(static_cast<double>(distinct) / static_cast<double>(loci));
 }
 
 void Describe(World& world, int firstPop, int endPop, Census& out) {
