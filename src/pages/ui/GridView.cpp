@@ -63,8 +63,9 @@ GridView::GridView(const PageContext& context, tamsic::Field field, const char* 
   // One line per row: measuring every row's text again on each change costs more than it shows.
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + 6);
-  // A grid is as large as its cells need and no larger; big ones scroll.
-  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+  // A grid is as high as its rows need (up to a limit, then it scrolls); the
+  // page scrolls when the window is lower than that. Wide grids scroll sideways.
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   hintOf = [hint](int, int) { return hint; };
   connect(model_, &GridModel::refused, this, [this](const QModelIndex& index) {
     refused_ = true;

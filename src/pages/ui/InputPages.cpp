@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QUndoStack>
 #include <QVBoxLayout>
@@ -72,7 +73,13 @@ void InputPages::layOut() {
   bold.setPointSizeF(bold.pointSizeF() * 1.2);
   title_->setFont(bold);
   stack_ = new QStackedWidget(this);
-  for (InputPage* page : pages_) stack_->addWidget(page);
+  for (InputPage* page : pages_) {
+    auto* scroll = new QScrollArea(stack_);
+    scroll->setWidget(page);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    stack_->addWidget(scroll);
+  }
   copyBar_ = new CopyInputValuesBar(context_, this);
   auto* column = new QVBoxLayout(this);
   column->addWidget(title_);
