@@ -10,41 +10,12 @@ void TruncateToCapacity(World& world) {
     const auto k = static_cast<std::size_t>(pop.year.capacity);
     const std::size_t n = pop.members.size();
     if (n <= k) continue;
-    // Partial shuffle: the first k after it are the survivors, in random order.
-    for (std::size_t i = 0; i < k; ++i)
-      std::swap(pop.members[i], pop.members[i + world.random.below(static_cast<std::uint32_t>(n - i))]);
+    // Partial shuffle from the end: the last n - k are the ones that die, a
+    // draw for each of them rather than for each survivor.
+    for (std::size_t i = n; i > k; --i)
+      std::swap(pop.members[world.random.below(static_cast<std::uint32_t>(i))], pop.members[i - 1]);
     for (std::size_t i = k; i < n; ++i) world.genomes.release(pop.members[i].genome);
     pop.members.resize(k);
-  }
-}
-
-Individual MakeFounder(World& world, int sex, int age) {
-  Individual ind;
-  ind.id = world.nextId++;
-  ind.sex = static_cast<std::uint8_t>(sex);
-  ind.age = static_cast<std::uint16_t>(age);
-  ind.genome = world.genomes.addFounder(ind.lethals);
-  return ind;
-}
-
-void Recount(const Model& m, World& world) {
-  for (PopulationState& pop : world.pops) {
-    Counts c;
-    double inbreeding = 0.0;
-    for (const Individual& ind : pop.members) {
-      const bool male = ind.sex == kMale;
-      c.males += male;
-      const bool adult = ind.age >= m.firstBreeding[ind.sex];
-      c.adultMales += male && adult;
-      c.adultFemales += !male && adult;
-      c.juveniles += ind.age <= 1;
-      c.subadults += ind.age > 1 && !adult;
-      inbreeding += ind.inbreeding;
-    }
-    c.n = static_cast<int>(pop.members.size());
-    c.females = c.n - c.males;
-    c.meanInbreeding = c.n > 0 ? inbreeding / c.n : 0.0;
-    pop.counts = c;
   }
 }
 
