@@ -1,0 +1,30 @@
+#!/bin/sh
+# tamsic-cli run: the result files and summary of a run, and a clear message
+# with exit code 1 for a scenario that is not there or an input that is wrong.
+set -u
+cli="$1"
+examples="$2"
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failures=0
+fail() { echo "FAIL: $1"; cat "$work/err"; failures=$((failures + 1)); }
+
+sed 's/^NumIter="500"/NumIter="6"/; s/^NumYears="100"/NumYears="10"/' "$examples/Koalas.tpj" > "$work/K.tpj"
+"$cli" run "$work/K.tpj" --scenario Managed --seed 3 --threads 2 > "$work/out" 2> "$work/err" || fail "run"
+grep -q '^Managed;10;6;' "$work/out" || fail "summary line printed"
+for ext in dat run out; do
+  [ -s "$work/Koalas in three fragments_Managed.$ext" ] || fail "the .$ext file"
+done
+grep -q '^Managed;10;6;' "$work/Koalas in three fragments.sum" || fail "the project summary"
+cp "$work/Koalas in three fragments_Managed.dat" "$work/first.dat"
+"$cli" run "$work/K.tpj" --scenario Managed --seed 3 --threads 1 > /dev/null 2> "$work/err" || fail "second run"
+cmp -s "$work/first.dat" "$work/Koalas in three fragments_Managed.dat" || fail "same seed, same yearly data"
+
+"$cli" run "$work/K.tpj" --scenario Nope > /dev/null 2> "$work/err"
+[ $? -eq 1 ] && grep -q 'There is no scenario "Nope"' "$work/err" || fail "unknown scenario"
+sed 's/"Northern ridge";"65";"10"/"Northern ridge";"=65*(N";"10"/' "$work/K.tpj" > "$work/bad.tpj"
+"$cli" run "$work/bad.tpj" --scenario Baseline > /dev/null 2> "$work/err"
+[ $? -eq 1 ] && grep -q 'Error: scenario "Baseline": RepRates1, Northern ridge' "$work/err" || fail "function that does not compile"
+
+[ "$failures" -eq 0 ] && echo "cli run: all passed"
+exit "$failures"
