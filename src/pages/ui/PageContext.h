@@ -17,12 +17,13 @@ struct PageContext {
   // Whether "=" typed in a cell opens the equation editor; the editor itself
   // answers through openEquationEditor, which is empty until there is one.
   std::function<bool()> showEquationDialogOnEquals = [] { return false; };
-  std::function<void(const QString& cellText)> openEquationEditor;
+  std::function<void(const QString& cellText)> openEquationEditor = nullptr;
   // Shows a function and its graph; empty until the preview window exists.
-  std::function<void(const QString& function)> openFunctionPreview;
+  std::function<void(const QString& function)> openFunctionPreview = nullptr;
   // Fills a record's initial numbers by age from the stable age distribution
   // (the window saves the project for the engine); answers the error, if any.
-  std::function<std::optional<std::string>(tamsic::clsScenario& record, std::size_t number)> stableAgeDistribution;
+  std::function<std::optional<std::string>(tamsic::clsScenario& record, std::size_t number)> stableAgeDistribution =
+      nullptr;
 
   QString text(int number) const { return QString::fromStdString(strings.text(number)); }
 };
