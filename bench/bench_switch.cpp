@@ -11,26 +11,13 @@
 #include "model/NewScenario.h"
 #include "model/ScenarioShape.h"
 #include "pages/ui/InputPages.h"
+#include "support/FakeEngine.h"
 
 namespace {
 
 class QuietBox : public tamsic::IMessageBox {
  public:
   tamsic::MsgAnswer show(const tamsic::MessageBoxRequest&) override { return tamsic::MsgAnswer::Ok; }
-};
-
-class NoEngine : public tamsic::Engine {
- public:
-  std::string tamsicsim(const std::string&, const std::string&, const std::string&) override { return {}; }
-  std::string tcheckin(const std::string&, std::int32_t) override { return {}; }
-  std::string agedist(std::int16_t) override { return {}; }
-  std::string detGraphValues(const std::string&, std::int32_t) override { return {}; }
-  std::string findpolyg(std::int16_t, const std::array<double, 4>&) override { return {}; }
-  std::string testFormula(const std::string&) override { return "OK"; }
-  std::string formulaGraphValues(const std::string&, const tamsic::GraphRequest&) override { return {}; }
-  std::optional<std::string> progress() override { return std::nullopt; }
-  bool cancel() override { return false; }
-  void close() override {}
 };
 
 // 50 populations, 4 catastrophes, 10 years to first breeding, 40 years of
@@ -62,7 +49,7 @@ void SwitchScenario(benchmark::State& state) {
   QuietBox box;
   tamsic::EnglishMessages strings;
   tamsic::Messages messages(box, strings);
-  NoEngine engine;
+  tamsic::test::FakeEngine engine;
   const PageContext context{strings, messages, engine};
   tamsic::ScenarioCollection scenarios;
   scenarios.Add(LargeScenario(1));

@@ -1,34 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "engine/EngineLibrary.h"
 #include "pages/InputChecks.h"
+#include "support/FakeEngine.h"
 #include "support/RecordingMessageBox.h"
 
 namespace tamsic {
 namespace {
-
-// Answers formula tests as told and remembers what it was asked.
-class FakeEngine : public Engine {
- public:
-  std::string tamsicsim(const std::string&, const std::string&, const std::string&) override { return {}; }
-  std::string tcheckin(const std::string&, std::int32_t) override { return {}; }
-  std::string agedist(std::int16_t) override { return {}; }
-  std::string detGraphValues(const std::string&, std::int32_t) override { return {}; }
-  std::string findpolyg(std::int16_t, const std::array<double, 4>&) override { return {}; }
-  std::string testFormula(const std::string& formula) override {
-    if (unavailable) throw EngineUnavailable("libtamsic.so: cannot open shared object file");
-    asked.push_back(formula);
-    return reply;
-  }
-  std::string formulaGraphValues(const std::string&, const GraphRequest&) override { return {}; }
-  std::optional<std::string> progress() override { return std::nullopt; }
-  bool cancel() override { return false; }
-  void close() override {}
-
-  std::vector<std::string> asked;
-  std::string reply = "Polish: / N K";
-  bool unavailable = false;
-};
 
 class InputChecksTest : public ::testing::Test {
  protected:
@@ -39,7 +16,7 @@ class InputChecksTest : public ::testing::Test {
   }
   std::vector<MessageBoxRequest>& shown() { return recorder.box.shown; }
   test::MessageRecorder recorder;
-  FakeEngine engine;
+  test::FakeEngine engine;
 };
 
 TEST_F(InputChecksTest, PercentCells) {
@@ -83,8 +60,8 @@ TEST_F(InputChecksTest, WholeNumbersAndRows) {
 TEST_F(InputChecksTest, FunctionsGoToTheEngineAndFilesDoNot) {
   EXPECT_FALSE(Grid("gridMortMales", 1, "=N/K"));
   EXPECT_FALSE(Grid("gridMortMales", 1, "file=rates.txt"));
-  EXPECT_EQ(engine.asked, std::vector<std::string>{"=N/K"});
-  engine.reply = "Error: unknown name QQ at character 2";
+  EXPECT_EQ(engine.formulas, std::vector<std::string>{"=N/K"});
+  engine.judge = [](const std::string&) { return std::string("Error: unknown name QQ at character 2"); };
   EXPECT_TRUE(Grid("gridMortMales", 1, "=QQ"));
   ASSERT_EQ(shown().size(), 1u);
   EXPECT_EQ(shown()[0].text, "Error: unknown name QQ at character 2");

@@ -13,6 +13,7 @@
 #include "pages/ui/GridView.h"
 #include "pages/ui/InputPage.h"
 #include "pages/ui/InputPages.h"
+#include "support/FakeEngine.h"
 #include "pages/ui/ScenarioBar.h"
 
 namespace pagestest {
@@ -49,22 +50,13 @@ class ExpectedMessages : public tamsic::IMessageBox {
   std::deque<Expected> expected_;
 };
 
-class FakeEngine : public tamsic::Engine {
- public:
-  std::string tamsicsim(const std::string&, const std::string&, const std::string&) override { return {}; }
-  std::string tcheckin(const std::string&, std::int32_t) override { return {}; }
-  std::string agedist(std::int16_t) override { return {}; }
-  std::string detGraphValues(const std::string&, std::int32_t) override { return {}; }
-  std::string findpolyg(std::int16_t, const std::array<double, 4>&) override { return {}; }
-  std::string testFormula(const std::string& formula) override {
-    formulas.push_back(formula);
-    return formula.find("BAD") != std::string::npos ? "Error: BAD is not a variable" : "OK";
+// Formulas holding "BAD" are refused, as the engine refuses an unknown name.
+struct PagesEngine : tamsic::test::FakeEngine {
+  PagesEngine() {
+    judge = [](const std::string& formula) {
+      return formula.find("BAD") != std::string::npos ? std::string("Error: BAD is not a variable") : std::string("OK");
+    };
   }
-  std::string formulaGraphValues(const std::string&, const tamsic::GraphRequest&) override { return {}; }
-  std::optional<std::string> progress() override { return std::nullopt; }
-  bool cancel() override { return false; }
-  void close() override {}
-  std::vector<std::string> formulas;
 };
 
 struct Harness {
@@ -129,7 +121,7 @@ struct Harness {
   ExpectedMessages box;
   tamsic::StringTable strings = tamsic::StringTable::fromFile(tamsic::StringTable::locate());
   tamsic::Messages messages{box, strings};
-  FakeEngine engine;
+  PagesEngine engine;
   PageContext context{strings, messages, engine};
   tamsic::ScenarioCollection scenarios;
   QUndoStack undo;
