@@ -1,31 +1,17 @@
 #include "ExampleScenario.h"
 
-#include <vector>
+#include "model/ScenarioShape.h"
 
 namespace tamsic::examples {
-
-namespace {
-
-// Option buttons that belong together: choosing one clears the others.
-const std::vector<std::vector<Field>>& OptionGroups() {
-  static const std::vector<std::vector<Field>> groups = {
-      {F("optExtinctDef_0"), F("optExtinctDef_1")},
-      {F("optMPHLQ_0"), F("optMPHLQ_1"), F("optMPHLQ_2"), F("optMPHLQ_3"), F("optMPHLQ_4")},
-      {F("optUseMean_0"), F("optUseMean_1")},
-      {F("optStartWith_0"), F("optStartWith_1")},
-      {F("GTallyOptButton_0"), F("GTallyOptButton_1"), F("GTallyOptButton_2")},
-      {F("SSOptGenMgtPairMK_0"), F("SSOptGenMgtPairMK_1")}};
-  return groups;
-}
-
-}  // namespace
 
 ExampleScenario::ExampleScenario(const std::string& name, const LayoutCounts& counts) {
   for (std::size_t i = 0; i < kFieldCount; ++i)
     if (Describe(Field{i}).kind == FieldKind::Grid) scenario_.SetGrid(Field{i}, LayoutGrid(Field{i}, counts));
   scenario_.ResetNotes();
   scenario_.SetText(F("txtSceneName"), name);
-  for (const auto& group : OptionGroups()) option(group.front());
+  for (Field first : {F("optExtinctDef_0"), F("optMPHLQ_0"), F("optUseMean_0"), F("optStartWith_0"),
+                      F("GTallyOptButton_0"), F("SSOptGenMgtPairMK_0")})
+    option(first);
 }
 
 ExampleScenario& ExampleScenario::text(Field field, const std::string& value) {
@@ -34,10 +20,7 @@ ExampleScenario& ExampleScenario::text(Field field, const std::string& value) {
 }
 
 ExampleScenario& ExampleScenario::option(Field chosen) {
-  for (const auto& group : OptionGroups())
-    for (Field member : group)
-      if (member == chosen)
-        for (Field other : group) scenario_.SetTruth(other, other == chosen);
+  for (Field other : OptionGroupOf(chosen)) scenario_.SetTruth(other, other == chosen);
   return *this;
 }
 
