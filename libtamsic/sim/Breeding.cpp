@@ -98,8 +98,9 @@ void Pair(const Model& m, PopulationState& pop, World& world, std::vector<std::u
   }
 }
 
-void Births(const Model& m, const PopulationModel& p, PopulationState& pop, World& world, SimContext& context,
+void Births(const Model& m, const PopulationModel& p, int population, World& world, SimContext& context,
             const std::vector<std::uint32_t>& mothers, const std::vector<std::uint32_t>& sires) {
+  PopulationState& pop = world.pops[static_cast<std::size_t>(population)];
   const BroodTables tables = Tables(m, p, context);
   const bool constantRatio = !m.sexRatio.perIndividual();
   const double maleShare = Percent(m.sexRatio.value(context));
@@ -136,6 +137,7 @@ void Births(const Model& m, const PopulationModel& p, PopulationState& pop, Worl
           share = Percent(m.sexRatio.value(context));
         }
         born.sex = m.sexual() && world.random.chance(share) ? kMale : kFemale;
+        world.noteCreated(born, population, Origin::Born);
         world.moving.push_back(born);
       }
     }
@@ -155,7 +157,7 @@ void Breed(const Model& model, World& world, SimContext& context) {
     const PopulationModel& inputs = model.pops[static_cast<std::size_t>(p)];
     Candidates(model, inputs, pop, context, world, world.scratchA, world.scratchB);
     Pair(model, pop, world, world.scratchA, world.scratchB, sires);
-    Births(model, inputs, pop, world, context, world.scratchA, sires);
+    Births(model, inputs, p, world, context, world.scratchA, sires);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 namespace tamsic::sim {
 
@@ -15,6 +16,12 @@ void GenomePool::reset(const GenomeShape& shape, std::uint64_t seed) {
   lethalThreshold_ = share >= 1.0 ? ~0ULL : static_cast<std::uint64_t>(share * 0x1.0p64);
   alleles_.clear();
   free_.clear();
+}
+
+void GenomePool::reserve(const GenomeShape& shape, std::size_t genomes) {
+  if (genomes > alleles_.max_size() / (2 * static_cast<std::size_t>(shape.loci()))) throw std::bad_alloc();
+  alleles_.reserve(genomes * 2 * static_cast<std::size_t>(shape.loci()));
+  free_.reserve(genomes);
 }
 
 std::uint32_t GenomePool::take() {

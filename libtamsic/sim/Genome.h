@@ -35,6 +35,8 @@ struct Newborn {
 class GenomePool {
  public:
   void reset(const GenomeShape& shape, std::uint64_t seed);
+  // Room for so many genomes of the shape, so that the pool need not grow.
+  void reserve(const GenomeShape& shape, std::size_t genomes);
 
   // A founder with two new haplotypes.
   std::uint32_t addFounder(std::uint8_t& lethals);

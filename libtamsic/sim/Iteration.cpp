@@ -14,6 +14,7 @@
 
 #include <cmath>
 
+#include "sim/Journal.h"
 #include "sim/SimContext.h"
 #include "sim/Steps.h"
 #include "sim/TakeCensus.h"
@@ -31,7 +32,8 @@ void Found(const Model& m, const std::vector<StartingNumbers>& start, World& wor
     for (int sex : {kFemale, kMale})
       for (std::size_t a = 0; a < start[p].byAge[sex].size(); ++a)
         for (int k = 0; k < start[p].byAge[sex][a]; ++k)
-          pop.members.push_back(MakeFounder(world, m.sexual() ? sex : kFemale, static_cast<int>(a) + 1));
+          pop.members.push_back(MakeFounder(world, m.sexual() ? sex : kFemale, static_cast<int>(a) + 1,
+                                             static_cast<int>(p), Origin::Founder));
   }
 }
 
@@ -73,9 +75,11 @@ void RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
                   World& world, IterationRecord& record) {
   Reset(m, seed, iteration, world);
   record.reset(m.populations > 1 ? m.populations + 1 : 1, m.years);
+  world.created = m.options.createdFile ? &record.journal.created : nullptr;
   SimContext context(m, world, seed);
   Found(m, start, world);
   TakeCensus(m, world, record);
+  NoteCensus(m, world, record);
   for (world.year = 1; world.year <= m.years; ++world.year) {
     DrawEnvironment(m, world, context);
     Recount(m, world);
@@ -88,7 +92,10 @@ void RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
     HarvestAndSupplement(m, world, context);
     TruncateToCapacity(world);
     TakeCensus(m, world, record);
+    NoteCensus(m, world, record);
   }
+  NoteLiving(m, world, record);
+  world.created = nullptr;
 }
 
 }  // namespace tamsic::sim

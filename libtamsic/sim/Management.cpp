@@ -50,15 +50,16 @@ void Harvest(const AgeClassCounts& counts, PopulationState& pop, World& world, S
   }
 }
 
-void Supplement(const Model& m, const AgeClassCounts& counts, PopulationState& pop, World& world,
-                SimContext& context, std::vector<Individual>& harvested) {
+void Supplement(const Model& m, const AgeClassCounts& counts, int population, World& world, SimContext& context,
+                std::vector<Individual>& harvested) {
+  PopulationState& pop = world.pops[static_cast<std::size_t>(population)];
   for (int sex : {kFemale, kMale}) {
     const auto& classes = sex == kFemale ? counts.females : counts.males;
     for (std::size_t c = 0; c < classes.size(); ++c) {
       const int wanted = Count(classes[c], context);
       for (int k = 0; k < wanted; ++k) {
         if (!m.options.translocate) {
-          pop.members.push_back(MakeFounder(world, sex, static_cast<int>(c) + 1));
+          pop.members.push_back(MakeFounder(world, sex, static_cast<int>(c) + 1, population, Origin::Supplement));
           continue;
         }
         const auto found = std::find_if(harvested.begin(), harvested.end(), [&](const Individual& ind) {
@@ -89,7 +90,7 @@ void HarvestAndSupplement(const Model& m, World& world, SimContext& context) {
     context.setPopulation(p);
     const PopulationModel& inputs = m.pops[static_cast<std::size_t>(p)];
     if (Due(inputs.supplement, world.year, context))
-      Supplement(m, inputs.supplemented, world.pops[static_cast<std::size_t>(p)], world, context, harvested);
+      Supplement(m, inputs.supplemented, p, world, context, harvested);
   }
   for (const Individual& gone : harvested) world.genomes.release(gone.genome);
 }

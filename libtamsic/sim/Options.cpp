@@ -1,5 +1,6 @@
 #include "sim/Options.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <string>
@@ -30,6 +31,11 @@ std::optional<T> NumberAfter(std::string_view code, std::size_t prefix) {
   return value;
 }
 
+// A code letter, alone or followed by its value ("T80", "Y 5"), but not a word that only begins with it.
+bool IsCode(const std::string& upper, char letter) {
+  return !upper.empty() && upper[0] == letter && (upper.size() == 1 || !std::isalpha(static_cast<unsigned char>(upper[1])));
+}
+
 void Apply(std::string_view code, Options& options) {
   const std::string upper = Upper(code);
   if (upper.starts_with("SEED")) {
@@ -42,9 +48,18 @@ void Apply(std::string_view code, Options& options) {
     options.noDispersalIntoFull = true;
   } else if (upper == "B") {
     options.declineIsExtinction = true;
-  } else if (upper == "T" || (upper.size() > 1 && upper[0] == 'T' && !std::isalpha(static_cast<unsigned char>(upper[1])))) {
+  } else if (upper == "A") {
+    options.livingFile = true;
+  } else if (upper == "N") {
+    options.createdFile = true;
+  } else if (IsCode(upper, 'T')) {
     options.translocate = true;
-    options.translocationSurvival = NumberAfter<double>(code, 1).value_or(100.0);
+    options.translocationSurvival = std::clamp(NumberAfter<double>(code, 1).value_or(100.0), 0.0, 100.0);
+  } else if (IsCode(upper, 'Y')) {
+    options.censusFile = true;
+    options.censusIterations = std::max(0, NumberAfter<int>(code, 1).value_or(0));
+  } else if (IsCode(upper, 'W')) {
+    options.reserveIndividuals = std::max(0LL, NumberAfter<long long>(code, 1).value_or(0));
   }
 }
 

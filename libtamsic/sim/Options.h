@@ -14,8 +14,17 @@ struct Options {
   bool excludeLastPopulation = false; // X: not in the metapopulation tally
   bool noDispersalIntoFull = false;   // M
   bool declineIsExtinction = false;   // B
+  bool livingFile = false;            // A: the living at the end of each iteration
+  bool createdFile = false;           // N: every individual created in each iteration
+  bool censusFile = false;            // Y: the census of each year ...
+  int censusIterations = 0;           // ... of the first so many iterations; 0: all
+  long long reserveIndividuals = 0;   // W: room for so many living individuals per thread
   std::optional<std::uint64_t> seed;  // SEED<n>
   int threads = 0;                    // THREADS<n>; 0: every core
+
+  bool censusOf(int iteration) const {
+    return censusFile && (censusIterations <= 0 || iteration <= censusIterations);
+  }
 };
 
 Options ParseOptions(std::string_view text);

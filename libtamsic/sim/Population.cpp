@@ -3,12 +3,13 @@
 
 namespace tamsic::sim {
 
-Individual MakeFounder(World& world, int sex, int age) {
+Individual MakeFounder(World& world, int sex, int age, int population, Origin origin) {
   Individual ind;
   ind.id = world.nextId++;
   ind.sex = static_cast<std::uint8_t>(sex);
   ind.age = static_cast<std::uint16_t>(age);
   ind.genome = world.genomes.addFounder(ind.lethals);
+  world.noteCreated(ind, population, origin);
   return ind;
 }
 

@@ -4,6 +4,8 @@
 // census of that year.
 #include <vector>
 
+#include "sim/Individual.h"
+
 namespace tamsic::sim {
 
 struct Census {
@@ -15,17 +17,60 @@ struct Census {
   float lethals = 0.0f;  // mean lethal alleles per individual
 };
 
+// What the extra-file options keep of an iteration (see Journal.h).
+struct LivingEntry {
+  int population = 0;
+  Individual individual;
+};
+
+enum class Origin : char { Founder = 'F', Supplement = 'S', Born = 'B' };
+
+struct CreatedEntry {
+  Individual individual;  // as it was created
+  int population = 0;
+  int year = 0;
+  Origin origin = Origin::Born;
+  int lastCensus = -1;  // the last census that counted it alive, -1 none
+};
+
+struct CensusEntry {
+  int year = 0;
+  int block = 0;  // population, or the number of populations for the metapopulation
+  int females = 0;
+  int males = 0;
+  int adultFemales = 0;
+  int adultMales = 0;
+  int juveniles = 0;
+  int subadults = 0;
+  double capacity = 0.0;
+  Census census;
+};
+
+struct Journal {
+  std::vector<LivingEntry> living;
+  std::vector<CreatedEntry> created;
+  std::vector<CensusEntry> census;
+  void clear() {
+    living.clear();
+    created.clear();
+    census.clear();
+  }
+};
+
 class IterationRecord {
  public:
   void reset(int blocks, int years) {
     blocks_ = blocks;
     years_ = years;
     cells_.assign(static_cast<std::size_t>(blocks) * static_cast<std::size_t>(years + 1), Census{});
+    journal.clear();
   }
   Census& at(int block, int year) { return cells_[index(block, year)]; }
   const Census& at(int block, int year) const { return cells_[index(block, year)]; }
   int blocks() const { return blocks_; }
   int years() const { return years_; }
+
+  Journal journal;  // filled only when an extra file was asked for
 
  private:
   std::size_t index(int block, int year) const {

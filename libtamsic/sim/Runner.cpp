@@ -5,6 +5,7 @@
 #include <random>
 
 #include "model/TextNumbers.h"
+#include "report/ExtraFiles.h"
 #include "report/Outcome.h"
 #include "sim/ProjectReader.h"
 #include "sim/ReadModel.h"
@@ -49,10 +50,27 @@ Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, con
   std::vector<LifeTable> tables;
   for (int p = 0; p < model.populations; ++p) tables.push_back(BuildLifeTable(model, p));
   const std::string date = Now();
-  const auto results = Simulate(model, StartingPopulations(model, tables), seed, options.threads);
-  if (!results) return {"", true};
-  const report::Outcome outcome{model, *results, tables, seed, date};
   const std::string& title = project.title;
+  report::ExtraFiles extra(model, title);
+  std::optional<Results> results;
+  try {
+    results = Simulate(model, StartingPopulations(model, tables), seed, options.threads,
+                       [&](int iteration, const IterationRecord& record) { extra.add(iteration, record); });
+  } catch (...) {
+    extra.discard();
+    throw;
+  }
+  if (!results) {
+    extra.discard();
+    return {"", true};
+  }
+  try {
+    extra.close();
+  } catch (...) {
+    extra.discard();
+    throw;
+  }
+  const report::Outcome outcome{model, *results, tables, seed, date};
   report::WriteYearlyData(outcome, report::ScenarioFile(title, model.name, ".dat"));
   report::WriteRunTable(outcome, report::ScenarioFile(title, model.name, ".run"));
   report::WriteOutputReport(outcome, report::ScenarioFile(title, model.name, ".out"));

@@ -15,7 +15,7 @@ namespace {
 // Records that finished out of order wait here until their turn to be folded.
 class OrderedFold {
  public:
-  explicit OrderedFold(Results& results) : results_(results) {}
+  OrderedFold(Results& results, const RecordSink& sink) : results_(results), sink_(sink) {}
 
   void deliver(int iteration, IterationRecord& record) {
     std::lock_guard lock(mutex_);
@@ -23,12 +23,10 @@ class OrderedFold {
       waiting_[iteration] = std::move(record);
       return;
     }
-    results_.add(iteration, record);
-    ++next_;
+    add(iteration, record);
     for (auto found = waiting_.find(next_); found != waiting_.end(); found = waiting_.find(next_)) {
-      results_.add(next_, found->second);
+      add(next_, found->second);
       waiting_.erase(found);
-      ++next_;
     }
   }
 
@@ -43,13 +41,32 @@ class OrderedFold {
   const std::optional<std::string>& error() const { return error_; }
 
  private:
+  void add(int iteration, const IterationRecord& record) {
+    results_.add(iteration, record);
+    if (sink_) sink_(iteration, record);
+    ++next_;
+  }
+
   std::mutex mutex_;
   Results& results_;
+  const RecordSink& sink_;
   int next_ = 1;
   std::map<int, IterationRecord> waiting_;
   std::optional<std::string> error_;
   int errorIteration_ = 0;
 };
+
+// The option W sets aside room for so many living individuals in each
+// thread, so that no array grows during the run.
+void Reserve(const Model& m, World& world) {
+  const auto n = static_cast<std::size_t>(m.options.reserveIndividuals);
+  if (n == 0) return;
+  world.genomes.reserve(ShapeOf(m), n);
+  world.pops.resize(static_cast<std::size_t>(m.populations));
+  for (PopulationState& pop : world.pops) pop.members.reserve(n);
+  world.moving.reserve(n);
+  for (auto* scratch : {&world.scratchA, &world.scratchB, &world.scratchC}) scratch->reserve(n);
+}
 
 }  // namespace
 
@@ -71,18 +88,28 @@ std::vector<StartingNumbers> StartingPopulations(const Model& m, const std::vect
 }
 
 std::optional<Results> Simulate(const Model& m, const std::vector<StartingNumbers>& start, std::uint64_t seed,
-                                int threads) {
+                                int threads, const RecordSink& sink) {
   Results results(m.populations > 1 ? m.populations + 1 : 1, m.years);
-  OrderedFold fold(results);
+  OrderedFold fold(results, sink);
   std::atomic<int> next{1};
   RunMonitor& monitor = RunMonitor::get();
   auto work = [&] {
     World world(seed, 0);
     IterationRecord record;
+    try {
+      Reserve(m, world);
+    } catch (const std::exception&) {
+      fold.fail(0, "option W: there is not enough memory for " + std::to_string(m.options.reserveIndividuals) +
+                       " individuals");
+      return;
+    }
     for (int i = next++; i <= m.iterations; i = next++) {
       if (monitor.cancelled() || fold.failed()) return;
       try {
         RunIteration(m, start, seed, i, world, record);
+      } catch (const std::bad_alloc&) {
+        fold.fail(i, "iteration " + std::to_string(i) + " ran out of memory");
+        return;
       } catch (const std::exception& fault) {
         fold.fail(i, fault.what());
         return;

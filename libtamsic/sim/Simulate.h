@@ -2,6 +2,7 @@
 // Runs the iterations of one scenario on a pool of threads and folds their
 // records into Results in iteration order.
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -11,10 +12,13 @@
 
 namespace tamsic::sim {
 
+// Sees every iteration's record once, in iteration order (for the extra files).
+using RecordSink = std::function<void(int iteration, const IterationRecord& record)>;
+
 // `threads` 0 means one per core. Throws SimError (the first fault of the
 // lowest iteration) and stops early, answering nothing, when cancelled.
 std::optional<Results> Simulate(const Model& model, const std::vector<StartingNumbers>& start, std::uint64_t seed,
-                                int threads);
+                                int threads, const RecordSink& sink = {});
 
 // The founders of every population: by the stable age distribution or the grids.
 std::vector<StartingNumbers> StartingPopulations(const Model& model, const std::vector<LifeTable>& tables);

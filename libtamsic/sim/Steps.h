@@ -20,7 +20,7 @@ void HarvestAndSupplement(const Model& model, World& world, SimContext& context)
 // Random deaths across all ages and sexes down to this year's K.
 void TruncateToCapacity(World& world);
 
-// New unrelated individuals (no parents, not inbred).
-Individual MakeFounder(World& world, int sex, int age);
+// A new unrelated individual (no parents, not inbred) of a population.
+Individual MakeFounder(World& world, int sex, int age, int population, Origin origin);
 
 }  // namespace tamsic::sim

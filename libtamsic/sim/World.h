@@ -9,6 +9,7 @@
 #include "sim/Genome.h"
 #include "sim/Individual.h"
 #include "sim/Random.h"
+#include "sim/Record.h"
 
 namespace tamsic::sim {
 
@@ -60,6 +61,12 @@ struct World {
   std::vector<std::uint32_t> scratchC;
   std::vector<Individual> moving;
   std::vector<std::uint32_t> alleleCounts;
+
+  // The iteration's list of everyone created, when the option "N" asks for it.
+  std::vector<CreatedEntry>* created = nullptr;
+  void noteCreated(const Individual& ind, int population, Origin origin) {
+    if (created) created->push_back({ind, population, year, origin, -1});
+  }
 };
 
 }  // namespace tamsic::sim

@@ -143,7 +143,11 @@ RunOutput RunScenario(const std::vector<SimScenario>& scenarios, const std::stri
   out.reply = sim::RunScenarios((folder / "T.tpj").string(), "{" + name + "}", options);
   std::filesystem::current_path(previous);
   const std::string dat = ReadAll(folder / ("T_" + name + ".dat"));
-  out.files = dat + ReadAll(folder / ("T_" + name + ".run")) + ReadAll(folder / "T.sum");
+  out.runTable = ReadAll(folder / ("T_" + name + ".run"));
+  out.files = dat + out.runTable + ReadAll(folder / "T.sum");
+  out.living = ReadAll(folder / ("T_" + name + ".liv"));
+  out.created = ReadAll(folder / ("T_" + name + ".all"));
+  out.census = ReadAll(folder / ("T_" + name + ".cen"));
   for (const SimScenario& s : scenarios)
     if (s.scenario().Text(F("txtSceneName")) == name)
       out.blocks = ReadBlocks(dat, name, std::stoi(s.scenario().Text(F("txtNumYear"))));

@@ -39,7 +39,9 @@ using Block = std::vector<std::vector<double>>;
 struct RunOutput {
   std::string reply;
   std::vector<Block> blocks;
-  std::string files;  // .dat, .run and .out joined, for comparisons
+  std::string files;  // .dat, .run and .sum joined, for comparisons
+  std::string runTable;
+  std::string living, created, census;  // the extra files .liv, .all and .cen ("" when not written)
 };
 
 // Saves the scenarios as project "T" (T.tpj) in a fresh folder, which the caller removes.
