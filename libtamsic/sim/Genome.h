@@ -7,15 +7,38 @@
 // the lethalLoci after them carry recessive lethals: founder allele h is
 // lethal at lethal locus l when a hash of (h, l, seed) falls below the
 // lethal share, so no table of lethal alleles is stored. Slots of the dead
-// are reused, so a year allocates nothing once the pool has grown. The two
-// alleles of a locus sit side by side and the neutral loci come first, so
-// that the census reads a few adjacent bytes of each genome.
+// are reused, so a year allocates nothing once the pool has grown.
+//
+// A genome packs the alleles of its loci into 64-bit words: 16 bits an
+// allele (four loci a word) while the iteration has made at most 65536
+// founder alleles, 32 bits (two a word) after, for the pool widens itself
+// once when the founders outgrow 16 bits. Word 2w holds loci of the maternal
+// haplotype, word 2w + 1 the same loci of the paternal one, so a birth picks
+// each locus' allele from a parent's two haplotypes several loci at a time
+// with masks, and the neutral loci of both haplotypes, which come first, sit
+// in the genome's first cache line for the census. Genomes start on cache
+// lines.
+#include <cstddef>
 #include <cstdint>
+#include <new>
 #include <vector>
 
 #include "sim/Random.h"
 
 namespace tamsic::sim {
+
+// Allocates on cache-line boundaries.
+template <class T>
+struct CacheAligned {
+  using value_type = T;
+  static constexpr std::align_val_t kLine{64};
+  CacheAligned() = default;
+  template <class U>
+  CacheAligned(const CacheAligned<U>&) {}
+  T* allocate(std::size_t n) { return static_cast<T*>(::operator new(n * sizeof(T), kLine)); }
+  void deallocate(T* p, std::size_t) { ::operator delete(p, kLine); }
+  friend bool operator==(const CacheAligned&, const CacheAligned&) { return true; }
+};
 
 struct GenomeShape {
   int ibdLoci = 64;
@@ -45,26 +68,42 @@ class GenomePool {
   void release(std::uint32_t slot) { free_.push_back(slot); }
 
   // Allele of haplotype 0 (maternal) or 1 (paternal) at a locus.
-  const std::uint32_t* alleles(std::uint32_t slot) const { return &alleles_[static_cast<std::size_t>(slot) * stride_]; }
   std::uint32_t allele(std::uint32_t slot, int haplotype, int locus) const {
-    return alleles_[static_cast<std::size_t>(slot) * stride_ + 2 * static_cast<std::size_t>(locus) + haplotype];
+    return wide_ ? Lane<32>(genome(slot), haplotype, locus) : Lane<16>(genome(slot), haplotype, locus);
   }
+  // The packed words of a genome; read them with Lane<32> when wide(), Lane<16> otherwise.
+  const std::uint64_t* genome(std::uint32_t slot) const { return &words_[slot * stride_]; }
+  template <int Bits>
+  static std::uint32_t Lane(const std::uint64_t* genome, int haplotype, int locus) {
+    constexpr int lanes = 64 / Bits;
+    const std::uint64_t word = genome[2 * (locus / lanes) + haplotype];
+    return static_cast<std::uint32_t>((word >> (Bits * (locus % lanes))) & ((1ULL << Bits) - 1));
+  }
+  bool wide() const { return wide_; }
   // Kinship from shared alleles at the identity-by-descent loci.
   double kinship(std::uint32_t a, std::uint32_t b) const;
   std::uint32_t alleleCount() const { return nextAllele_; }
   const GenomeShape& shape() const { return shape_; }
 
  private:
+  void layout(bool wide);
+  void widen();
   std::uint32_t take();
   bool lethal(std::uint32_t allele, int locus) const;
+  template <int Bits>
+  Newborn child(std::uint32_t dam, std::uint32_t sire, Random& random);
+  template <int Bits>
+  int sharedAlleles(std::uint32_t a, std::uint32_t b) const;
 
   GenomeShape shape_;
-  std::size_t loci_ = 0;
-  std::size_t stride_ = 0;
+  bool wide_ = false;
+  std::size_t haplotypeWords_ = 0;
+  std::size_t stride_ = 0;  // words per genome, whole cache lines
   std::uint64_t seed_ = 0;
   std::uint32_t nextAllele_ = 0;
   std::uint64_t lethalThreshold_ = 0;
-  std::vector<std::uint32_t> alleles_;
+  std::vector<std::uint64_t, CacheAligned<std::uint64_t>> words_;
+  std::vector<std::uint64_t> ibdLanes_;  // per haplotype word: top bits of its identity-locus lanes
   std::vector<std::uint32_t> free_;
 };
 

@@ -1,5 +1,7 @@
 #include "sim/TakeCensus.h"
 
+#include <algorithm>
+
 #include "sim/Steps.h"
 
 namespace tamsic::sim {
@@ -22,20 +24,19 @@ void ClearIfExtinct(const Model& m, World& world, PopulationState& pop) {
   pop.counts = Counts{};
 }
 
-// Neutral-locus statistics of a group of individuals: the sum of squared
-// allele counts grows by 2c + 1 when a count c grows by one, so no list of
-// the alleles seen is needed.
+// Neutral-locus statistics of a group of individuals, from a table with a
+// row of allele counts per neutral locus: GeneDiv needs the sum of the
+// squared counts, #Alleles the number of counts above 0.
 struct Tally {
-  double squares = 0.0;
-  long distinct = 0;
+  std::uint64_t squares = 0;
+  std::uint64_t distinct = 0;
   long individuals = 0;
   double inbreeding = 0.0;
   double lethals = 0.0;
 
-  void add(std::uint32_t& count) {
-    squares += 2.0 * count + 1.0;
-    distinct += count == 0;
-    ++count;
+  void members(const std::vector<Individual>& group) {
+    individuals += static_cast<long>(group.size());
+    for (const Individual& ind : group) inbreeding += ind.inbreeding, lethals += ind.lethals;
   }
   void store(int loci, Census& out) const {
     out.n = static_cast<int>(individuals);
@@ -43,39 +44,80 @@ struct Tally {
     const double copies = 2.0 * static_cast<double>(individuals);
     out.inbreeding = static_cast<float>(inbreeding / individuals);
     out.lethals = static_cast<float>(lethals / individuals);
-    out.geneDiversity = static_cast<float>(1.0 - squares / (copies * copies) / loci);
+    out.geneDiversity = static_cast<float>(1.0 - static_cast<double>(squares) / (copies * copies) / loci);
     out.alleles = static_cast<float>(static_cast<double>(distinct) / loci);
   }
 };
 
-// Counts the members into their population's table and, when `meta` is
-// given, into the metapopulation's in the same pass over their genomes.
-void Count(const GenomePool& g, const std::vector<Individual>& members, std::uint32_t* own, Tally& ownTally,
-           std::uint32_t* meta, Tally* metaTally) {
-  const std::size_t copies = 2 * static_cast<std::size_t>(g.shape().neutralLoci);
+// Genomes sit in the pool in no useful order, and a member's counting is
+// too long a stretch of work for the processor to reach the next genome's
+// loads by itself: ask for the genomes a few members ahead.
+constexpr std::size_t kAhead = 4;
+
+void Prefetch(const GenomePool& g, const std::vector<Individual>& members, std::size_t i) {
+  if (i < members.size()) __builtin_prefetch(g.genome(members[i].genome));
+}
+
+// Adds the members' neutral alleles to the population's table and, when
+// `meta` is given, to the metapopulation's, in one pass over their genomes.
+template <int Bits>
+void Count(const GenomePool& g, const std::vector<Individual>& members, std::uint32_t* own, std::uint32_t* meta) {
+  const int loci = g.shape().neutralLoci;
   const std::size_t alleles = g.alleleCount();
-  for (const Individual& ind : members) {
-    const std::uint32_t* genome = g.alleles(ind.genome);
-    for (Tally* t : {&ownTally, metaTally}) {
-      if (!t) continue;
-      ++t->individuals;
-      t->inbreeding += ind.inbreeding;
-      t->lethals += ind.lethals;
-    }
-    for (std::size_t l = 0; l < copies; ++l) {
-      const std::size_t k = (l / 2) * alleles + genome[l];
-      ownTally.add(own[k]);
-      if (meta) metaTally->add(meta[k]);
-    }
+  for (std::size_t i = 0; i < members.size(); ++i) {
+    Prefetch(g, members, i + kAhead);
+    const std::uint64_t* genome = g.genome(members[i].genome);
+    for (int l = 0; l < loci; ++l)
+      for (int h = 0; h < 2; ++h) {
+        const std::size_t k = static_cast<std::size_t>(l) * alleles + GenomePool::Lane<Bits>(genome, h, l);
+        ++own[k];
+        if (meta) ++meta[k];
+      }
   }
 }
 
-void Clear(const GenomePool& g, const std::vector<Individual>& members, std::uint32_t* counts) {
-  const std::size_t copies = 2 * static_cast<std::size_t>(g.shape().neutralLoci);
+// Takes the counts of the members' alleles into the tally, zeroing each
+// when first seen so that it is taken once.
+template <int Bits>
+void Collect(const GenomePool& g, const std::vector<Individual>& members, std::uint32_t* counts, Tally& tally) {
+  const int loci = g.shape().neutralLoci;
   const std::size_t alleles = g.alleleCount();
-  for (const Individual& ind : members) {
-    const std::uint32_t* genome = g.alleles(ind.genome);
-    for (std::size_t l = 0; l < copies; ++l) counts[(l / 2) * alleles + genome[l]] = 0;
+  for (std::size_t i = 0; i < members.size(); ++i) {
+    Prefetch(g, members, i + kAhead);
+    const std::uint64_t* genome = g.genome(members[i].genome);
+    for (int l = 0; l < loci; ++l)
+      for (int h = 0; h < 2; ++h) {
+        std::uint32_t& count = counts[static_cast<std::size_t>(l) * alleles + GenomePool::Lane<Bits>(genome, h, l)];
+        const std::uint64_t c = count;
+        tally.squares += c * c;
+        tally.distinct += c != 0;
+        count = 0;
+      }
+  }
+}
+
+// Takes the counts of populations first..last into the tally and leaves the table zero: by a
+// sweep of the whole table when it is small for them (a sweep reads an
+// entry in a fraction of the time a visit to a member's allele takes), else
+// by visiting the members' alleles.
+void Settle(const GenomePool& g, const PopulationState* first, const PopulationState* last, std::uint32_t* counts,
+            Tally& tally) {
+  const std::size_t table = static_cast<std::size_t>(g.shape().neutralLoci) * g.alleleCount();
+  std::size_t visits = 0;
+  for (const PopulationState* pop = first; pop != last; ++pop)
+    visits += 2 * static_cast<std::size_t>(g.shape().neutralLoci) * pop->members.size();
+  if (table < 5 * visits) {
+    for (std::size_t k = 0; k < table; ++k) {
+      const std::uint64_t c = counts[k];
+      tally.squares += c * c;
+      tally.distinct += c != 0;
+    }
+    std::fill(counts, counts + table, 0u);
+    return;
+  }
+  for (const PopulationState* pop = first; pop != last; ++pop) {
+    if (g.wide()) Collect<32>(g, pop->members, counts, tally);
+    else Collect<16>(g, pop->members, counts, tally);
   }
 }
 
@@ -95,9 +137,12 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
     ClearIfExtinct(m, world, pop);
     const bool inMeta = meta && p < tallied;
+    if (g.wide()) Count<32>(g, pop.members, own, inMeta ? meta : nullptr);
+    else Count<16>(g, pop.members, own, inMeta ? meta : nullptr);
     Tally tally;
-    Count(g, pop.members, own, tally, inMeta ? meta : nullptr, inMeta ? &metaTally : nullptr);
-    Clear(g, pop.members, own);
+    tally.members(pop.members);
+    Settle(g, &pop, &pop + 1, own, tally);
+    if (inMeta) metaTally.members(pop.members);
     Census& census = record.at(p, world.year);
     tally.store(g.shape().neutralLoci, census);
     census.extinct = pop.extinct;
@@ -106,7 +151,7 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
     if (inMeta) females += pop.counts.females, males += pop.counts.males;
   }
   if (!meta) return;
-  for (int p = 0; p < tallied; ++p) Clear(g, world.pops[static_cast<std::size_t>(p)].members, meta);
+  Settle(g, world.pops.data(), world.pops.data() + tallied, meta, metaTally);
   Census& census = record.at(m.populations, world.year);
   metaTally.store(g.shape().neutralLoci, census);
   census.extinct = Extinct(m, census.n, females, males);

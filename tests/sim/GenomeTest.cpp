@@ -1,0 +1,70 @@
+// The genome pool packs 16-bit alleles until the founders outgrow them, then
+// repacks itself with 32-bit alleles; identity by descent must survive that.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "SimTestSupport.h"
+#include "sim/Genome.h"
+
+namespace tamsic::sim {
+namespace {
+
+TEST(SimGenome, WideningKeepsEveryAlleleAndItsIdentity) {
+  GenomeShape shape;
+  shape.ibdLoci = 70;  // not a whole number of words
+  shape.neutralLoci = 10;
+  GenomePool pool;
+  pool.reset(shape, 9);
+  Random random(9, 1);
+  std::uint8_t lethals = 0;
+  const std::uint32_t first = pool.addFounder(lethals);
+  const std::uint32_t second = pool.addFounder(lethals);
+  const Newborn child = pool.addChild(first, second, random);
+  const Newborn selfed = pool.addChild(first, first, random);
+  EXPECT_FALSE(pool.wide());
+  EXPECT_EQ(child.inbreeding, 0.0f);
+  EXPECT_GT(selfed.inbreeding, 0.25f);  // half the loci identical on average
+  EXPECT_LT(selfed.inbreeding, 0.75f);
+  std::vector<std::uint32_t> before;
+  for (int l = 0; l < shape.ibdLoci; ++l)
+    before.push_back(pool.allele(child.slot, 0, l) << 16 | pool.allele(child.slot, 1, l));
+
+  std::uint32_t last = 0;
+  for (int k = 2; k < 40000; ++k) last = pool.addFounder(lethals);
+  EXPECT_TRUE(pool.wide());
+  EXPECT_EQ(pool.alleleCount(), 80000u);
+  EXPECT_EQ(pool.allele(last, 0, 69), 79998u);
+  EXPECT_EQ(pool.allele(last, 1, 0), 79999u);
+  for (int l = 0; l < shape.ibdLoci; ++l) {
+    EXPECT_EQ(pool.allele(child.slot, 0, l), 0u + (pool.allele(child.slot, 0, l) & 1));  // from the first founder
+    EXPECT_EQ(before[static_cast<std::size_t>(l)], pool.allele(child.slot, 0, l) << 16 | pool.allele(child.slot, 1, l));
+  }
+  EXPECT_DOUBLE_EQ(pool.kinship(last, last), 0.5);
+  EXPECT_DOUBLE_EQ(pool.kinship(first, last), 0.0);
+  // Children after widening: alleles from their parents, none mistaken for another's.
+  const Newborn late = pool.addChild(last, first, random);
+  EXPECT_EQ(late.inbreeding, 0.0f);
+  std::set<std::uint32_t> maternal;
+  for (int l = 0; l < shape.ibdLoci; ++l) maternal.insert(pool.allele(late.slot, 0, l));
+  EXPECT_EQ(maternal, (std::set<std::uint32_t>{79998u, 79999u}));
+}
+
+}  // namespace
+}  // namespace tamsic::sim
+
+namespace tamsic::test {
+namespace {
+
+TEST(SimGenome, LargeFoundingPopulationsKeepEveryFounderAllele) {
+  SimScenario big("Big", 1, 40000, 60000);
+  big.text(F("txtNumIter"), "1").text(F("txtNumYear"), "1");
+  const RunOutput out = RunScenario({big}, "Big", "SEED2");
+  ASSERT_TRUE(out.reply.starts_with("Message")) << out.reply;
+  const double n = out.blocks[0][0][kAll];
+  EXPECT_EQ(out.blocks[0][0][kAlleles], 2 * n);  // every founder allele distinct, past 65536
+  EXPECT_GT(out.blocks[0][1][kAlleles], 65536.0);
+}
+
+}  // namespace
+}  // namespace tamsic::test
