@@ -98,6 +98,9 @@ void Pair(const Model& m, PopulationState& pop, World& world, std::vector<std::u
   }
 }
 
+// Parents' genomes are asked for a few mothers ahead of their births.
+constexpr std::size_t kAhead = 3;
+
 void Births(const Model& m, const PopulationModel& p, int population, World& world, SimContext& context,
             const std::vector<std::uint32_t>& mothers, const std::vector<std::uint32_t>& sires) {
   PopulationState& pop = world.pops[static_cast<std::size_t>(population)];
@@ -106,6 +109,10 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
   const double maleShare = Percent(m.sexRatio.value(context));
   world.moving.clear();
   for (std::size_t f = 0; f < mothers.size(); ++f) {
+    if (f + kAhead < mothers.size() && sires[f + kAhead] != UINT32_MAX) {
+      world.genomes.prefetch(pop.members[mothers[f + kAhead]].genome);
+      world.genomes.prefetch(pop.members[sires[f + kAhead]].genome);
+    }
     if (sires[f] == UINT32_MAX) continue;
     Individual& mother = pop.members[mothers[f]];
     Individual& father = pop.members[sires[f]];

@@ -3,46 +3,67 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 #include <new>
 
 namespace tamsic::sim {
 
 namespace {
 
-template <int Bits>
-constexpr int kLanes = 64 / Bits;
 constexpr std::size_t kLineWords = 8;
+constexpr std::size_t kBlockWords = 2;
+
+// A block seen as lanes of one allele each (compiled to vector instructions).
+template <int Bits>
+struct Block;
+template <>
+struct Block<16> {
+  using Lanes = std::uint16_t __attribute__((vector_size(16)));
+  using Same = std::int16_t __attribute__((vector_size(16)));
+};
+template <>
+struct Block<32> {
+  using Lanes = std::uint32_t __attribute__((vector_size(16)));
+  using Same = std::int32_t __attribute__((vector_size(16)));
+};
 
 template <int Bits>
-constexpr std::uint64_t Repeat(std::uint64_t lane) {
-  std::uint64_t word = 0;
-  for (int k = 0; k < kLanes<Bits>; ++k) word |= lane << (Bits * k);
-  return word;
-}
+constexpr int kLanes = 128 / Bits;  // per block
 
-// The mask that takes lane k from the second haplotype when bit k of a group
-// of random bits is set, for every such group.
 template <int Bits>
-constexpr std::array<std::uint64_t, (1u << kLanes<Bits>)> MakeMasks() {
-  std::array<std::uint64_t, (1u << kLanes<Bits>)> masks{};
+using LaneArray = std::array<std::conditional_t<Bits == 16, std::uint16_t, std::uint32_t>, kLanes<Bits>>;
+
+// The lanes that come from the second haplotype for each group of random
+// bits, one bit a lane.
+template <int Bits>
+constexpr std::array<LaneArray<Bits>, (1u << kLanes<Bits>)> MakeMasks() {
+  std::array<LaneArray<Bits>, (1u << kLanes<Bits>)> masks{};
   for (std::uint32_t bits = 0; bits < masks.size(); ++bits)
     for (int k = 0; k < kLanes<Bits>; ++k)
-      if ((bits >> k) & 1u) masks[bits] |= ((1ULL << Bits) - 1) << (Bits * k);
+      masks[bits][static_cast<std::size_t>(k)] = ((bits >> k) & 1u) ? static_cast<typename LaneArray<Bits>::value_type>(~0u) : 0;
   return masks;
 }
 
 template <int Bits>
 constexpr auto kMasks = MakeMasks<Bits>();
 
-// The lanes of x that are zero, counting only lanes whose top bit is set in `valid`.
+template <class V>
+V Load(const void* from) {
+  V v;
+  std::memcpy(&v, from, sizeof v);
+  return v;
+}
+
+template <class V>
+void Store(void* to, const V& v) {
+  std::memcpy(to, &v, sizeof v);
+}
+
 template <int Bits>
-int ZeroLanes(std::uint64_t x, std::uint64_t valid) {
-  constexpr std::uint64_t high = Repeat<Bits>(1ULL << (Bits - 1));
-  constexpr std::uint64_t low = ~high;
-  const std::uint64_t nonzero = (((x & low) + low) | x) & high;
-  // Sum the lanes' top bits with one multiplication (no popcount instruction on every machine).
-  constexpr std::uint64_t ones = Repeat<Bits>(1);
-  return static_cast<int>((((~nonzero & valid) >> (Bits - 1)) * ones) >> (64 - Bits));
+constexpr std::uint64_t Repeat(std::uint64_t lane) {
+  std::uint64_t word = 0;
+  for (int k = 0; k < 64 / Bits; ++k) word |= lane << (Bits * k);
+  return word;
 }
 
 }  // namespace
@@ -61,18 +82,21 @@ void GenomePool::reset(const GenomeShape& shape, std::uint64_t seed) {
 void GenomePool::layout(bool wide) {
   wide_ = wide;
   const int lanes = wide ? kLanes<32> : kLanes<16>;
-  const int bits = 64 / lanes;
-  haplotypeWords_ = static_cast<std::size_t>((shape_.loci() + lanes - 1) / lanes);
-  stride_ = (2 * haplotypeWords_ + kLineWords - 1) / kLineWords * kLineWords;
-  // Top bits of the lanes that hold identity loci, word by word.
-  ibdLanes_.assign(haplotypeWords_, 0);
-  for (int l = 0; l < shape_.ibdLoci; ++l)
-    ibdLanes_[static_cast<std::size_t>(l / lanes)] |= 1ULL << (bits * (l % lanes) + bits - 1);
+  const int bits = 128 / lanes;
+  blocks_ = static_cast<std::size_t>((shape_.loci() + lanes - 1) / lanes);
+  stride_ = (2 * kBlockWords * blocks_ + kLineWords - 1) / kLineWords * kLineWords;
+  // All ones in the lanes that hold identity loci, block by block.
+  ibdLanes_.assign(kBlockWords * blocks_, 0);
+  for (int l = 0; l < shape_.ibdLoci; ++l) {
+    const int lane = l % lanes;
+    ibdLanes_[kBlockWords * static_cast<std::size_t>(l / lanes) + static_cast<std::size_t>(lane / (64 / bits))] |=
+        ((1ULL << bits) - 1) << (bits * (lane % (64 / bits)));
+  }
 }
 
 void GenomePool::reserve(const GenomeShape& shape, std::size_t genomes) {
-  const std::size_t perGenome = (2 * static_cast<std::size_t>((shape.loci() + kLanes<16> - 1) / kLanes<16>) +
-                                 kLineWords - 1) / kLineWords * kLineWords;
+  const std::size_t blocks = static_cast<std::size_t>((shape.loci() + kLanes<16> - 1) / kLanes<16>);
+  const std::size_t perGenome = (2 * kBlockWords * blocks + kLineWords - 1) / kLineWords * kLineWords;
   if (genomes > words_.max_size() / perGenome) throw std::bad_alloc();
   words_.reserve(genomes * perGenome);
   free_.reserve(genomes);
@@ -89,8 +113,11 @@ void GenomePool::widen() {
     const std::uint64_t* from = &narrow[slot * narrowStride];
     std::uint64_t* to = &words_[slot * stride_];
     for (int h = 0; h < 2; ++h)
-      for (int l = 0; l < shape_.loci(); ++l)
-        to[2 * (l / 2) + h] |= static_cast<std::uint64_t>(Lane<16>(from, h, l)) << (32 * (l % 2));
+      for (int l = 0; l < shape_.loci(); ++l) {
+        const int lane = l % kLanes<32>;
+        to[kBlockWords * static_cast<std::size_t>(2 * (l / kLanes<32>) + h) + static_cast<std::size_t>(lane / 2)] |=
+            static_cast<std::uint64_t>(Lane<16>(from, h, l)) << (32 * (lane % 2));
+      }
   }
 }
 
@@ -118,7 +145,8 @@ std::uint32_t GenomePool::addFounder(std::uint8_t& lethals) {
   std::uint64_t* out = &words_[slot * stride_];
   for (std::size_t h = 0; h < 2; ++h) {
     const std::uint64_t word = wide_ ? Repeat<32>(first + h) : Repeat<16>(first + h);
-    for (std::size_t w = 0; w < haplotypeWords_; ++w) out[2 * w + h] = word;
+    for (std::size_t b = 0; b < blocks_; ++b)
+      for (std::size_t w = 0; w < kBlockWords; ++w) out[kBlockWords * (2 * b + h) + w] = word;
   }
   int count = 0;
   for (int l = shape_.ibdLoci; l < shape_.loci(); ++l) count += lethal(first, l) + lethal(first + 1, l);
@@ -132,33 +160,37 @@ Newborn GenomePool::addChild(std::uint32_t dam, std::uint32_t sire, Random& rand
 
 template <int Bits>
 Newborn GenomePool::child(std::uint32_t dam, std::uint32_t sire, Random& random) {
+  using Lanes = typename Block<Bits>::Lanes;
+  using Same = typename Block<Bits>::Same;
   constexpr int lanes = kLanes<Bits>;
   constexpr std::uint64_t group = (1ULL << lanes) - 1;
-  constexpr std::size_t wordsPerDraw = 64 / lanes;
+  constexpr std::size_t blocksPerDraw = 64 / lanes;
+  constexpr std::size_t block = kBlockWords;
   const std::uint32_t slot = take();  // before the pointers: taking may move the pool
   const std::uint64_t* mother = &words_[dam * stride_];
   const std::uint64_t* father = &words_[sire * stride_];
   std::uint64_t* out = &words_[slot * stride_];
-  const std::size_t n = haplotypeWords_;
   // One random bit per locus and parent says which of the parent's two
-  // haplotypes passes that locus on; a mask applies a lane's worth at once.
-  int identical = 0;
-  for (std::size_t base = 0; base < n; base += wordsPerDraw) {
+  // haplotypes passes that locus on; a mask applies a block's worth at once.
+  Same same{};  // -1 in a lane for each identity locus found identical there
+  for (std::size_t base = 0; base < blocks_; base += blocksPerDraw) {
     std::uint64_t fromDam = random.bits64();
     std::uint64_t fromSire = random.bits64();
-    const std::size_t end = std::min(n, base + wordsPerDraw);
-    for (std::size_t w = base; w < end; ++w) {
-      const std::uint64_t m = kMasks<Bits>[fromDam & group];
-      const std::uint64_t p = kMasks<Bits>[fromSire & group];
+    const std::size_t end = std::min(blocks_, base + blocksPerDraw);
+    for (std::size_t b = base; b < end; ++b) {
+      const auto m = Load<Lanes>(&kMasks<Bits>[fromDam & group]);
+      const auto p = Load<Lanes>(&kMasks<Bits>[fromSire & group]);
       fromDam >>= lanes;
       fromSire >>= lanes;
-      const std::uint64_t maternal = (mother[2 * w] & ~m) | (mother[2 * w + 1] & m);
-      const std::uint64_t paternal = (father[2 * w] & ~p) | (father[2 * w + 1] & p);
-      out[2 * w] = maternal;
-      out[2 * w + 1] = paternal;
-      identical += ZeroLanes<Bits>(maternal ^ paternal, ibdLanes_[w]);
+      const Lanes maternal = (Load<Lanes>(mother + 2 * b * block) & ~m) | (Load<Lanes>(mother + (2 * b + 1) * block) & m);
+      const Lanes paternal = (Load<Lanes>(father + 2 * b * block) & ~p) | (Load<Lanes>(father + (2 * b + 1) * block) & p);
+      Store(out + 2 * b * block, maternal);
+      Store(out + (2 * b + 1) * block, paternal);
+      same += (maternal == paternal) & Load<Same>(&ibdLanes_[b * block]);
     }
   }
+  int identical = 0;
+  for (int k = 0; k < lanes; ++k) identical -= same[k];
   Newborn born{slot, static_cast<float>(identical) / static_cast<float>(shape_.ibdLoci), 0, true};
   if (shape_.lethalLoci > 0) {
     int lethals = 0;

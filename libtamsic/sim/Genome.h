@@ -9,15 +9,15 @@
 // lethal share, so no table of lethal alleles is stored. Slots of the dead
 // are reused, so a year allocates nothing once the pool has grown.
 //
-// A genome packs the alleles of its loci into 64-bit words: 16 bits an
-// allele (four loci a word) while the iteration has made at most 65536
-// founder alleles, 32 bits (two a word) after, for the pool widens itself
-// once when the founders outgrow 16 bits. Word 2w holds loci of the maternal
-// haplotype, word 2w + 1 the same loci of the paternal one, so a birth picks
-// each locus' allele from a parent's two haplotypes several loci at a time
-// with masks, and the neutral loci of both haplotypes, which come first, sit
-// in the genome's first cache line for the census. Genomes start on cache
-// lines.
+// A genome packs the alleles of its loci into 16-byte blocks: 16 bits an
+// allele (eight loci a block) while the iteration has made at most 65536
+// founder alleles, 32 bits (four a block) after, for the pool widens itself
+// once when the founders outgrow 16 bits. Block 2b holds loci of the
+// maternal haplotype, block 2b + 1 the same loci of the paternal one, so a
+// birth picks each locus' allele from a parent's two haplotypes a block at a
+// time with vector masks, and the neutral loci of both haplotypes, which
+// come first, sit in the genome's first cache line for the census. Genomes
+// start on cache lines.
 #include <cstddef>
 #include <cstdint>
 #include <new>
@@ -66,6 +66,12 @@ class GenomePool {
   // A child of two parents (the same slot twice for selfing).
   Newborn addChild(std::uint32_t dam, std::uint32_t sire, Random& random);
   void release(std::uint32_t slot) { free_.push_back(slot); }
+  // Asks the processor for a genome ahead of a birth: genomes sit in the
+  // pool in no useful order.
+  void prefetch(std::uint32_t slot) const {
+    if (static_cast<std::size_t>(slot) * stride_ >= words_.size()) return;
+    for (std::size_t w = 0; w < stride_; w += 8) __builtin_prefetch(&words_[slot * stride_ + w]);
+  }
 
   // Allele of haplotype 0 (maternal) or 1 (paternal) at a locus.
   std::uint32_t allele(std::uint32_t slot, int haplotype, int locus) const {
@@ -75,9 +81,11 @@ class GenomePool {
   const std::uint64_t* genome(std::uint32_t slot) const { return &words_[slot * stride_]; }
   template <int Bits>
   static std::uint32_t Lane(const std::uint64_t* genome, int haplotype, int locus) {
-    constexpr int lanes = 64 / Bits;
-    const std::uint64_t word = genome[2 * (locus / lanes) + haplotype];
-    return static_cast<std::uint32_t>((word >> (Bits * (locus % lanes))) & ((1ULL << Bits) - 1));
+    constexpr int perBlock = 128 / Bits;
+    constexpr int perWord = 64 / Bits;
+    const int lane = locus % perBlock;
+    const std::uint64_t word = genome[2 * (2 * (locus / perBlock) + haplotype) + lane / perWord];
+    return static_cast<std::uint32_t>((word >> (Bits * (lane % perWord))) & ((1ULL << Bits) - 1));
   }
   bool wide() const { return wide_; }
   // Kinship from shared alleles at the identity-by-descent loci.
@@ -97,13 +105,13 @@ class GenomePool {
 
   GenomeShape shape_;
   bool wide_ = false;
-  std::size_t haplotypeWords_ = 0;
+  std::size_t blocks_ = 0;   // blocks per haplotype
   std::size_t stride_ = 0;  // words per genome, whole cache lines
   std::uint64_t seed_ = 0;
   std::uint32_t nextAllele_ = 0;
   std::uint64_t lethalThreshold_ = 0;
   std::vector<std::uint64_t, CacheAligned<std::uint64_t>> words_;
-  std::vector<std::uint64_t> ibdLanes_;  // per haplotype word: top bits of its identity-locus lanes
+  std::vector<std::uint64_t> ibdLanes_;  // per haplotype block: its identity-locus lanes all ones (two words)
   std::vector<std::uint32_t> free_;
 };
 
