@@ -131,7 +131,8 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
           world.genomes.release(child.slot);
           continue;
         }
-        Individual born;
+        // Built in place: a record written field by field and then copied whole would stall the copy.
+        Individual& born = world.moving.emplace_back();
         born.id = world.nextId++;
         born.dam = mother.id;
         born.sire = father.id;
@@ -145,7 +146,6 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
         }
         born.sex = m.sexual() && world.random.chance(share) ? kMale : kFemale;
         world.noteCreated(born, population, Origin::Born);
-        world.moving.push_back(born);
       }
     }
   }

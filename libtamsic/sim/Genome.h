@@ -18,6 +18,7 @@
 // time with vector masks, and the neutral loci of both haplotypes, which
 // come first, sit in the genome's first cache line for the census. Genomes
 // start on cache lines.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <new>
@@ -86,6 +87,21 @@ class GenomePool {
     const int lane = locus % perBlock;
     const std::uint64_t word = genome[2 * (2 * (locus / perBlock) + haplotype) + lane / perWord];
     return static_cast<std::uint32_t>((word >> (Bits * (lane % perWord))) & ((1ULL << Bits) - 1));
+  }
+  // Calls visit(locus, allele) for both alleles of each of the first `loci`
+  // loci, in the order they are stored.
+  template <int Bits, class Visit>
+  static void ForEachAllele(const std::uint64_t* genome, int loci, Visit visit) {
+    constexpr int perWord = 64 / Bits;
+    constexpr std::uint64_t mask = (1ULL << Bits) - 1;
+    for (int first = 0; first < loci; first += 128 / Bits, genome += 4)
+      for (int h = 0; h < 2; ++h)
+        for (int w = 0; w < 2; ++w) {
+          const std::uint64_t word = genome[2 * h + w];
+          const int base = first + w * perWord;
+          const int end = std::min(perWord, loci - base);
+          for (int k = 0; k < end; ++k) visit(base + k, static_cast<std::uint32_t>((word >> (Bits * k)) & mask));
+        }
   }
   bool wide() const { return wide_; }
   // Kinship from shared alleles at the identity-by-descent loci.

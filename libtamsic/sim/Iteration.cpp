@@ -81,8 +81,8 @@ void RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
   TakeCensus(m, world, record);
   NoteCensus(m, world, record);
   for (world.year = 1; world.year <= m.years; ++world.year) {
+    // The counts of last year's census hold until the first births.
     DrawEnvironment(m, world, context);
-    Recount(m, world);
     Breed(m, world, context);
     if (m.needsCounts) Recount(m, world);
     SurviveAndAge(m, world, context);

@@ -58,8 +58,11 @@ void SurvivePopulation(const Model& m, const PopulationModel& p, PopulationState
       world.genomes.release(ind.genome);
       continue;
     }
-    ++ind.age;
-    pop.members[kept++] = ind;
+    // Copy first, then age the copy: a copy read right after a narrow write
+    // to the same record would wait for that write.
+    Individual& survivor = pop.members[kept++];
+    if (&survivor != &ind) survivor = ind;
+    ++survivor.age;
   }
   pop.members.resize(kept);
   context.setIndividual(nullptr);

@@ -66,13 +66,11 @@ void Count(const GenomePool& g, const std::vector<Individual>& members, std::uin
   const std::size_t alleles = g.alleleCount();
   for (std::size_t i = 0; i < members.size(); ++i) {
     Prefetch(g, members, i + kAhead);
-    const std::uint64_t* genome = g.genome(members[i].genome);
-    for (int l = 0; l < loci; ++l)
-      for (int h = 0; h < 2; ++h) {
-        const std::size_t k = static_cast<std::size_t>(l) * alleles + GenomePool::Lane<Bits>(genome, h, l);
-        ++own[k];
-        if (meta) ++meta[k];
-      }
+    GenomePool::ForEachAllele<Bits>(g.genome(members[i].genome), loci, [&](int l, std::uint32_t allele) {
+      const std::size_t k = static_cast<std::size_t>(l) * alleles + allele;
+      ++own[k];
+      if (meta) ++meta[k];
+    });
   }
 }
 
@@ -84,15 +82,13 @@ void Collect(const GenomePool& g, const std::vector<Individual>& members, std::u
   const std::size_t alleles = g.alleleCount();
   for (std::size_t i = 0; i < members.size(); ++i) {
     Prefetch(g, members, i + kAhead);
-    const std::uint64_t* genome = g.genome(members[i].genome);
-    for (int l = 0; l < loci; ++l)
-      for (int h = 0; h < 2; ++h) {
-        std::uint32_t& count = counts[static_cast<std::size_t>(l) * alleles + GenomePool::Lane<Bits>(genome, h, l)];
-        const std::uint64_t c = count;
-        tally.squares += c * c;
-        tally.distinct += c != 0;
-        count = 0;
-      }
+    GenomePool::ForEachAllele<Bits>(g.genome(members[i].genome), loci, [&](int l, std::uint32_t allele) {
+      std::uint32_t& count = counts[static_cast<std::size_t>(l) * alleles + allele];
+      const std::uint64_t c = count;
+      tally.squares += c * c;
+      tally.distinct += c != 0;
+      count = 0;
+    });
   }
 }
 
