@@ -42,23 +42,30 @@ void Candidates(const Model& m, const PopulationModel& p, PopulationState& pop, 
   const double shift = p.breedingSD.value(context) * year.breedingDeviate;
   const double breeding = Percent(mean + shift) * year.reproductionFactor;
   const double inPool = Percent(p.malesInPool.value(context));
-  mothers.clear();
-  pool.clear();
+  // Written unconditionally and kept by advancing the end: whether a draw
+  // succeeds cannot be predicted, and a mispredicted branch costs more.
+  mothers.resize(pop.members.size());
+  pool.resize(pop.members.size());
+  std::size_t breeders = 0, inBreedingPool = 0;
   for (std::uint32_t i = 0; i < pop.members.size(); ++i) {
     const Individual& ind = pop.members[i];
     if (ind.age < m.firstBreeding[ind.sex]) continue;
-    if (!m.sexual()) pool.push_back(i);
     if (ind.sex == kMale) {
-      if (world.random.chance(inPool)) pool.push_back(i);
+      pool[inBreedingPool] = i;
+      inBreedingPool += world.random.chance(inPool);
       continue;
     }
+    if (!m.sexual()) pool[inBreedingPool++] = i;
     double chance = breeding;
     if (each) {
       context.setIndividual(&ind);
       chance = Percent(p.breeding.value(context) + shift) * year.reproductionFactor;
     }
-    if (world.random.chance(chance)) mothers.push_back(i);
+    mothers[breeders] = i;
+    breeders += world.random.chance(chance);
   }
+  mothers.resize(breeders);
+  pool.resize(inBreedingPool);
   context.setIndividual(nullptr);
 }
 

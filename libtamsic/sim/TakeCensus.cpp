@@ -1,6 +1,7 @@
 #include "sim/TakeCensus.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "sim/Steps.h"
 
@@ -34,9 +35,10 @@ struct Tally {
   double inbreeding = 0.0;
   double lethals = 0.0;
 
-  void members(const std::vector<Individual>& group) {
-    individuals += static_cast<long>(group.size());
-    for (const Individual& ind : group) inbreeding += ind.inbreeding, lethals += ind.lethals;
+  void add(const Individual& ind) {
+    ++individuals;
+    inbreeding += ind.inbreeding;
+    lethals += ind.lethals;
   }
   void store(int loci, Census& out) const {
     out.n = static_cast<int>(individuals);
@@ -58,14 +60,17 @@ void Prefetch(const GenomePool& g, const std::vector<Individual>& members, std::
   if (i < members.size()) __builtin_prefetch(g.genome(members[i].genome));
 }
 
-// Adds the members' neutral alleles to the population's table and, when
-// `meta` is given, to the metapopulation's, in one pass over their genomes.
+// Adds the members to the population's tally and their neutral alleles to
+// its table and, when `meta` is given, to the metapopulation's, in one pass.
 template <int Bits>
-void Count(const GenomePool& g, const std::vector<Individual>& members, std::uint32_t* own, std::uint32_t* meta) {
+void Count(const GenomePool& g, const std::vector<Individual>& members, std::uint32_t* own, Tally& ownTally,
+           std::uint32_t* meta, Tally* metaTally) {
   const int loci = g.shape().neutralLoci;
   const std::size_t alleles = g.alleleCount();
   for (std::size_t i = 0; i < members.size(); ++i) {
     Prefetch(g, members, i + kAhead);
+    ownTally.add(members[i]);
+    if (metaTally) metaTally->add(members[i]);
     GenomePool::ForEachAllele<Bits>(g.genome(members[i].genome), loci, [&](int l, std::uint32_t allele) {
       const std::size_t k = static_cast<std::size_t>(l) * alleles + allele;
       ++own[k];
@@ -92,6 +97,26 @@ void Collect(const GenomePool& g, const std::vector<Individual>& members, std::u
   }
 }
 
+// Takes every count of the table into the tally and zeroes it. Most
+// founder alleles are soon lost, so the sweep skips four zero counts at a
+// time.
+void Sweep(std::uint32_t* counts, std::size_t table, Tally& tally) {
+  auto take = [&](std::uint32_t& count) {
+    const std::uint64_t c = count;
+    tally.squares += c * c;
+    tally.distinct += c != 0;
+    count = 0;
+  };
+  std::size_t k = 0;
+  for (; k + 4 <= table; k += 4) {
+    std::uint64_t four[2];
+    std::memcpy(four, counts + k, sizeof four);
+    if ((four[0] | four[1]) == 0) continue;
+    for (std::size_t j = k; j < k + 4; ++j) take(counts[j]);
+  }
+  for (; k < table; ++k) take(counts[k]);
+}
+
 // Takes the counts of populations first..last into the tally and leaves the table zero: by a
 // sweep of the whole table when it is small for them (a sweep reads an
 // entry in a fraction of the time a visit to a member's allele takes), else
@@ -103,12 +128,7 @@ void Settle(const GenomePool& g, const PopulationState* first, const PopulationS
   for (const PopulationState* pop = first; pop != last; ++pop)
     visits += 2 * static_cast<std::size_t>(g.shape().neutralLoci) * pop->members.size();
   if (table < 5 * visits) {
-    for (std::size_t k = 0; k < table; ++k) {
-      const std::uint64_t c = counts[k];
-      tally.squares += c * c;
-      tally.distinct += c != 0;
-    }
-    std::fill(counts, counts + table, 0u);
+    Sweep(counts, table, tally);
     return;
   }
   for (const PopulationState* pop = first; pop != last; ++pop) {
@@ -133,12 +153,10 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
     ClearIfExtinct(m, world, pop);
     const bool inMeta = meta && p < tallied;
-    if (g.wide()) Count<32>(g, pop.members, own, inMeta ? meta : nullptr);
-    else Count<16>(g, pop.members, own, inMeta ? meta : nullptr);
     Tally tally;
-    tally.members(pop.members);
+    if (g.wide()) Count<32>(g, pop.members, own, tally, inMeta ? meta : nullptr, inMeta ? &metaTally : nullptr);
+    else Count<16>(g, pop.members, own, tally, inMeta ? meta : nullptr, inMeta ? &metaTally : nullptr);
     Settle(g, &pop, &pop + 1, own, tally);
-    if (inMeta) metaTally.members(pop.members);
     Census& census = record.at(p, world.year);
     tally.store(g.shape().neutralLoci, census);
     census.extinct = pop.extinct;
