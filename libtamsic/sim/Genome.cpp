@@ -76,7 +76,7 @@ void GenomePool::reset(const GenomeShape& shape, std::uint64_t seed) {
   lethalThreshold_ = share >= 1.0 ? ~0ULL : static_cast<std::uint64_t>(share * 0x1.0p64);
   layout(false);
   words_.clear();
-  free_.clear();
+  freeCount_ = 0;
 }
 
 void GenomePool::layout(bool wide) {
@@ -99,7 +99,7 @@ void GenomePool::reserve(const GenomeShape& shape, std::size_t genomes) {
   const std::size_t perGenome = (2 * kBlockWords * blocks + kLineWords - 1) / kLineWords * kLineWords;
   if (genomes > words_.max_size() / perGenome) throw std::bad_alloc();
   words_.reserve(genomes * perGenome);
-  free_.reserve(genomes);
+  free_.resize(std::max(free_.size(), genomes));
 }
 
 // Founder alleles no longer fit 16 bits: repack every slot with 32-bit alleles.
@@ -122,11 +122,7 @@ void GenomePool::widen() {
 }
 
 std::uint32_t GenomePool::take() {
-  if (!free_.empty()) {
-    const std::uint32_t slot = free_.back();
-    free_.pop_back();
-    return slot;
-  }
+  if (freeCount_ > 0) return free_[--freeCount_];
   const auto slot = static_cast<std::uint32_t>(words_.size() / stride_);
   words_.resize(words_.size() + stride_);
   return slot;

@@ -66,7 +66,14 @@ class GenomePool {
   std::uint32_t addFounder(std::uint8_t& lethals);
   // A child of two parents (the same slot twice for selfing).
   Newborn addChild(std::uint32_t dam, std::uint32_t sire, Random& random);
-  void release(std::uint32_t slot) { free_.push_back(slot); }
+  void release(std::uint32_t slot) { releaseIf(slot, true); }
+  // Releases the slot when `dead`, without a branch on it: whether an
+  // individual dies cannot be predicted.
+  void releaseIf(std::uint32_t slot, bool dead) {
+    if (freeCount_ == free_.size()) free_.resize(2 * free_.size() + 64);
+    free_[freeCount_] = slot;
+    freeCount_ += dead;
+  }
   // Asks the processor for a genome ahead of a birth: genomes sit in the
   // pool in no useful order.
   void prefetch(std::uint32_t slot) const {
@@ -128,7 +135,8 @@ class GenomePool {
   std::uint64_t lethalThreshold_ = 0;
   std::vector<std::uint64_t, CacheAligned<std::uint64_t>> words_;
   std::vector<std::uint64_t> ibdLanes_;  // per haplotype block: its identity-locus lanes all ones (two words)
-  std::vector<std::uint32_t> free_;
+  std::vector<std::uint32_t> free_;  // slots of the dead in free_[0 .. freeCount_)
+  std::size_t freeCount_ = 0;
 };
 
 }  // namespace tamsic::sim

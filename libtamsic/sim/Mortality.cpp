@@ -54,15 +54,15 @@ void SurvivePopulation(const Model& m, const PopulationModel& p, PopulationState
       if (ind.age == 0 && depression > 0.0) s *= std::exp(-depression * ind.inbreeding);
       lives = world.random.chance(s);
     }
-    if (!lives) {
-      world.genomes.release(ind.genome);
-      continue;
-    }
-    // Copy first, then age the copy: a copy read right after a narrow write
-    // to the same record would wait for that write.
-    Individual& survivor = pop.members[kept++];
+    // Everyone is copied to the end of the survivors and only the survivors
+    // advance that end, since whether one lives cannot be predicted. Copy
+    // first, then age the copy: a copy read right after a narrow write to
+    // the same record would wait for that write.
+    world.genomes.releaseIf(ind.genome, !lives);
+    Individual& survivor = pop.members[kept];
     if (&survivor != &ind) survivor = ind;
     ++survivor.age;
+    kept += lives;
   }
   pop.members.resize(kept);
   context.setIndividual(nullptr);
