@@ -40,7 +40,9 @@ std::vector<double> Destinations(const Model& m, const World& world, int p, SimC
 
 void Disperse(const Model& m, World& world, SimContext& context) {
   if (m.populations < 2 || !(m.dispersing[kFemale] || m.dispersing[kMale])) return;
-  std::vector<std::vector<Individual>> arrivals(static_cast<std::size_t>(m.populations));
+  auto& arrivals = world.arrivals;
+  arrivals.resize(static_cast<std::size_t>(m.populations));
+  for (auto& incoming : arrivals) incoming.clear();
   for (int p = 0; p < m.populations; ++p) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
     if (pop.members.empty()) continue;

@@ -54,6 +54,11 @@ void Reset(const Model& m, std::uint64_t seed, int iteration, World& world) {
   world.year = 0;
 }
 
+// Dispersal looks at the sizes of populations only for its least size and for the option "M".
+bool DispersalReadsCounts(const Model& m) {
+  return m.populations > 1 && (m.dispersalMinimum || m.options.noDispersalIntoFull);
+}
+
 }  // namespace
 
 GenomeShape ShapeOf(const Model& m) {
@@ -86,7 +91,7 @@ void RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
     Breed(m, world, context);
     if (m.needsCounts) Recount(m, world);
     SurviveAndAge(m, world, context);
-    if (m.needsCounts || m.populations > 1) Recount(m, world);
+    if (m.needsCounts || DispersalReadsCounts(m)) Recount(m, world);
     Disperse(m, world, context);
     if (m.needsCounts) Recount(m, world);
     HarvestAndSupplement(m, world, context);

@@ -15,10 +15,14 @@ void AddCounts(const Counts& c, CensusEntry& e) {
 
 void NoteCensusLines(const Model& m, const World& world, IterationRecord& record) {
   const int tallied = m.options.excludeLastPopulation ? m.populations - 1 : m.populations;
-  CensusEntry meta{world.year, m.populations};
+  CensusEntry meta;
+  meta.year = world.year;
+  meta.block = m.populations;
   for (int p = 0; p < m.populations; ++p) {
     const PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
-    CensusEntry e{world.year, p};
+    CensusEntry e;
+    e.year = world.year;
+    e.block = p;
     AddCounts(pop.counts, e);
     e.capacity = pop.year.capacity;
     e.census = record.at(p, world.year);

@@ -97,24 +97,36 @@ void Collect(const GenomePool& g, const std::vector<Individual>& members, std::u
   }
 }
 
-// Takes every count of the table into the tally and zeroes it. Most
-// founder alleles are soon lost, so the sweep skips four zero counts at a
-// time.
+// Takes every count of the table into the tally and zeroes it, four counts
+// at a time in vector registers. Squares go through doubles, which hold
+// these whole numbers exactly, so the order of the additions does not matter.
 void Sweep(std::uint32_t* counts, std::size_t table, Tally& tally) {
-  auto take = [&](std::uint32_t& count) {
-    const std::uint64_t c = count;
-    tally.squares += c * c;
-    tally.distinct += c != 0;
-    count = 0;
-  };
+  using Four = std::int32_t __attribute__((vector_size(16)));
+  using FourDoubles = double __attribute__((vector_size(32)));
+  using Doubles = double __attribute__((vector_size(16)));
+  Doubles low{}, high{};  // two accumulators, so both halves stay in registers
+  Four distinct{};
   std::size_t k = 0;
   for (; k + 4 <= table; k += 4) {
-    std::uint64_t four[2];
-    std::memcpy(four, counts + k, sizeof four);
-    if ((four[0] | four[1]) == 0) continue;
-    for (std::size_t j = k; j < k + 4; ++j) take(counts[j]);
+    Four c;
+    std::memcpy(&c, counts + k, sizeof c);
+    FourDoubles d = __builtin_convertvector(c, FourDoubles);
+    d *= d;
+    Doubles half[2];
+    std::memcpy(half, &d, sizeof d);
+    low += half[0];
+    high += half[1];
+    distinct -= c != 0;
+    std::memset(counts + k, 0, sizeof c);
   }
-  for (; k < table; ++k) take(counts[k]);
+  for (double sum : {low[0], low[1], high[0], high[1]}) tally.squares += static_cast<std::uint64_t>(sum);
+  tally.distinct += static_cast<std::uint64_t>(distinct[0] + distinct[1] + distinct[2] + distinct[3]);
+  for (; k < table; ++k) {
+    const std::uint64_t c = counts[k];
+    tally.squares += c * c;
+    tally.distinct += c != 0;
+    counts[k] = 0;
+  }
 }
 
 // Takes the counts of populations first..last into the tally and leaves the table zero: by a
