@@ -98,9 +98,10 @@ void Collect(const GenomePool& g, const std::vector<Individual>& members, std::u
 }
 
 // Takes every count of the table into the tally and zeroes it, four counts
-// at a time in vector registers. Squares go through doubles, which hold
-// these whole numbers exactly, so the order of the additions does not matter.
-void Sweep(std::uint32_t* counts, std::size_t table, Tally& tally) {
+// at a time in vector registers, adding them to `into` when given. Squares go
+// through doubles, which hold these whole numbers exactly, so the order of
+// the additions does not matter.
+void Sweep(std::uint32_t* counts, std::size_t table, Tally& tally, std::uint32_t* into) {
   using Four = std::int32_t __attribute__((vector_size(16)));
   using FourDoubles = double __attribute__((vector_size(32)));
   using Doubles = double __attribute__((vector_size(16)));
@@ -118,6 +119,11 @@ void Sweep(std::uint32_t* counts, std::size_t table, Tally& tally) {
     high += half[1];
     distinct -= c != 0;
     std::memset(counts + k, 0, sizeof c);
+    if (!into) continue;
+    Four sum;
+    std::memcpy(&sum, into + k, sizeof sum);
+    sum += c;
+    std::memcpy(into + k, &sum, sizeof sum);
   }
   for (double sum : {low[0], low[1], high[0], high[1]}) tally.squares += static_cast<std::uint64_t>(sum);
   tally.distinct += static_cast<std::uint64_t>(distinct[0] + distinct[1] + distinct[2] + distinct[3]);
@@ -126,21 +132,28 @@ void Sweep(std::uint32_t* counts, std::size_t table, Tally& tally) {
     tally.squares += c * c;
     tally.distinct += c != 0;
     counts[k] = 0;
+    if (into) into[k] += static_cast<std::uint32_t>(c);
   }
 }
 
-// Takes the counts of populations first..last into the tally and leaves the table zero: by a
-// sweep of the whole table when it is small for them (a sweep reads an
-// entry in a fraction of the time a visit to a member's allele takes), else
-// by visiting the members' alleles.
-void Settle(const GenomePool& g, const PopulationState* first, const PopulationState* last, std::uint32_t* counts,
-            Tally& tally) {
+// Whether the counts of populations first..last are best taken by a sweep
+// of the whole table, which is small for them (a sweep reads an entry in a
+// fraction of the time a visit to a member's allele takes), or by visiting
+// the members' alleles.
+bool Sweeps(const GenomePool& g, const PopulationState* first, const PopulationState* last) {
   const std::size_t table = static_cast<std::size_t>(g.shape().neutralLoci) * g.alleleCount();
   std::size_t visits = 0;
   for (const PopulationState* pop = first; pop != last; ++pop)
     visits += 2 * static_cast<std::size_t>(g.shape().neutralLoci) * pop->members.size();
-  if (table < 5 * visits) {
-    Sweep(counts, table, tally);
+  return table < 5 * visits;
+}
+
+// Takes the counts of populations first..last into the tally and leaves the
+// table zero. A sweep also adds them to `into` when given (a visit cannot).
+void Settle(const GenomePool& g, const PopulationState* first, const PopulationState* last, std::uint32_t* counts,
+            Tally& tally, std::uint32_t* into) {
+  if (Sweeps(g, first, last)) {
+    Sweep(counts, static_cast<std::size_t>(g.shape().neutralLoci) * g.alleleCount(), tally, into);
     return;
   }
   for (const PopulationState* pop = first; pop != last; ++pop) {
@@ -165,10 +178,14 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
     ClearIfExtinct(m, world, pop);
     const bool inMeta = meta && p < tallied;
+    // The metapopulation's counts are the populations' summed: by the sweep
+    // of a population's table when it sweeps, else allele by allele.
+    const bool summedBySweep = inMeta && Sweeps(g, &pop, &pop + 1);
+    std::uint32_t* metaByAllele = inMeta && !summedBySweep ? meta : nullptr;
     Tally tally;
-    if (g.wide()) Count<32>(g, pop.members, own, tally, inMeta ? meta : nullptr, inMeta ? &metaTally : nullptr);
-    else Count<16>(g, pop.members, own, tally, inMeta ? meta : nullptr, inMeta ? &metaTally : nullptr);
-    Settle(g, &pop, &pop + 1, own, tally);
+    if (g.wide()) Count<32>(g, pop.members, own, tally, metaByAllele, inMeta ? &metaTally : nullptr);
+    else Count<16>(g, pop.members, own, tally, metaByAllele, inMeta ? &metaTally : nullptr);
+    Settle(g, &pop, &pop + 1, own, tally, summedBySweep ? meta : nullptr);
     Census& census = record.at(p, world.year);
     tally.store(g.shape().neutralLoci, census);
     census.extinct = pop.extinct;
@@ -177,7 +194,7 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
     if (inMeta) females += pop.counts.females, males += pop.counts.males;
   }
   if (!meta) return;
-  Settle(g, world.pops.data(), world.pops.data() + tallied, meta, metaTally);
+  Settle(g, world.pops.data(), world.pops.data() + tallied, meta, metaTally, nullptr);
   Census& census = record.at(m.populations, world.year);
   metaTally.store(g.shape().neutralLoci, census);
   census.extinct = Extinct(m, census.n, females, males);

@@ -1,11 +1,14 @@
 // The simulation against results worked out independently of it: the
 // growth rate of the life table, the growth of a population free of density
-// effects, drift in a closed population, and extinction of a branching process.
+// effects, drift in a closed population, extinction of a branching process,
+// and the metapopulation as its populations taken together.
 #include <gtest/gtest.h>
 
 #include <Eigen/Eigenvalues>
 #include <cmath>
 #include <filesystem>
+#include <map>
+#include <sstream>
 
 #include "SimTestSupport.h"
 #include "sim/LifeTable.h"
@@ -127,6 +130,37 @@ TEST(SimChecks, SameSeedSameFilesForAnyNumberOfThreads) {
   EXPECT_EQ(one.files, three.files);
   EXPECT_EQ(one.blocks.size(), 4u);
   EXPECT_NE(one.files, RunScenario({s}, "Meta", "SEED6;THREADS2").files);
+}
+
+// Two populations of very different size with no dispersal share no allele,
+// so the metapopulation's allele counts are theirs side by side: its number
+// of alleles is their sum and its gene diversity follows from theirs. (The
+// census takes a large population's counts by a sweep of its table and a
+// small one's allele by allele; both must reach the metapopulation.)
+TEST(SimChecks, MetapopulationIsThePopulationsTogether) {
+  SimScenario two("Two", 2, 300, 400);
+  two.text(F("txtNumIter"), "8").text(F("txtNumYear"), "6").text(F("txtGenMgtNumNeutralLoci"), "12");
+  two.cell(F("gridInitPopStable"), 2, 1, "6").cell(F("gridCarryingCap1"), 2, 1, "8");
+  const RunOutput out = RunScenario({two}, "Two", "SEED5");
+  ASSERT_TRUE(out.reply.starts_with("Message")) << out.reply;
+  struct Final { double n, geneDiv, alleles; };
+  std::map<std::string, std::map<std::string, Final>> finals;  // iteration -> population -> final state
+  std::istringstream in(out.runTable);
+  for (std::string line; std::getline(in, line);) {
+    if (line.empty() || line[0] == '$') continue;
+    std::vector<std::string> f;
+    std::istringstream cut(line);
+    for (std::string field; std::getline(cut, field, ';');) f.push_back(field);
+    finals[f[0]][f[1]] = {std::stod(f[4]), std::stod(f[5]), std::stod(f[7])};
+  }
+  ASSERT_EQ(finals.size(), 8u);
+  for (auto& [iteration, block] : finals) {
+    const Final a = block["1"], b = block["2"], meta = block["Metapopulation"];
+    EXPECT_EQ(meta.n, a.n + b.n);
+    EXPECT_NEAR(meta.alleles, a.alleles + b.alleles, 1e-3 * meta.alleles) << iteration;
+    const double squares = (1 - a.geneDiv) * 4 * a.n * a.n + (1 - b.geneDiv) * 4 * b.n * b.n;
+    EXPECT_NEAR(meta.geneDiv, 1 - squares / (4 * meta.n * meta.n), 1e-4) << iteration;
+  }
 }
 
 }  // namespace
