@@ -162,30 +162,78 @@ void Settle(const GenomePool& g, const PopulationState* first, const PopulationS
   }
 }
 
+// A population's members into its tally and its table of counts, and into
+// the metapopulation's when `meta` is given. The metapopulation's counts are
+// the populations' summed: by the sweep of a population's table when it
+// sweeps, else allele by allele.
+void CountByTable(const GenomePool& g, const PopulationState& pop, std::uint32_t* own, Tally& tally,
+                  std::uint32_t* meta, Tally* metaTally) {
+  const bool summedBySweep = meta && Sweeps(g, &pop, &pop + 1);
+  std::uint32_t* metaByAllele = summedBySweep ? nullptr : meta;
+  if (g.wide()) Count<32>(g, pop.members, own, tally, metaByAllele, metaTally);
+  else Count<16>(g, pop.members, own, tally, metaByAllele, metaTally);
+  Settle(g, &pop, &pop + 1, own, tally, summedBySweep ? meta : nullptr);
+}
+
+// A table of counts has a row per neutral locus and a column per founder
+// allele. Many loci and many founders would make it larger than the
+// individuals themselves; past this many entries (64 MB) each locus' alleles
+// are sorted instead and counted in runs, which needs no table.
+constexpr std::size_t kLargestTable = std::size_t{1} << 24;
+
+template <int Bits>
+void CountBySorting(const GenomePool& g, const PopulationState* first, const PopulationState* last,
+                    std::vector<std::uint32_t>& alleles, Tally& tally) {
+  for (int l = 0; l < g.shape().neutralLoci; ++l) {
+    alleles.clear();
+    for (const PopulationState* pop = first; pop != last; ++pop)
+      for (const Individual& ind : pop->members)
+        for (int h = 0; h < 2; ++h) alleles.push_back(GenomePool::Lane<Bits>(g.genome(ind.genome), h, l));
+    std::sort(alleles.begin(), alleles.end());
+    for (std::size_t run = 0; run < alleles.size();) {
+      std::size_t end = run + 1;
+      while (end < alleles.size() && alleles[end] == alleles[run]) ++end;
+      const std::uint64_t c = end - run;
+      tally.squares += c * c;
+      ++tally.distinct;
+      run = end;
+    }
+  }
+}
+
+void CountBySorting(const GenomePool& g, const PopulationState* first, const PopulationState* last,
+                    std::vector<std::uint32_t>& alleles, Tally& tally) {
+  if (g.wide()) CountBySorting<32>(g, first, last, alleles, tally);
+  else CountBySorting<16>(g, first, last, alleles, tally);
+}
+
 }  // namespace
 
 void TakeCensus(const Model& m, World& world, IterationRecord& record) {
   Recount(m, world);
   const GenomePool& g = world.genomes;
   const std::size_t table = static_cast<std::size_t>(g.shape().neutralLoci) * g.alleleCount();
-  world.alleleCounts.resize(2 * table);
-  std::uint32_t* own = world.alleleCounts.data();
-  std::uint32_t* meta = m.populations > 1 ? own + table : nullptr;
+  const bool sorting = table > kLargestTable;
+  if (!sorting) world.alleleCounts.resize(2 * table);
+  std::uint32_t* own = sorting ? nullptr : world.alleleCounts.data();
+  std::uint32_t* meta = own && m.populations > 1 ? own + table : nullptr;
   const int tallied = m.options.excludeLastPopulation ? m.populations - 1 : m.populations;
   Tally metaTally;
   int females = 0, males = 0;
   for (int p = 0; p < m.populations; ++p) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
     ClearIfExtinct(m, world, pop);
-    const bool inMeta = meta && p < tallied;
-    // The metapopulation's counts are the populations' summed: by the sweep
-    // of a population's table when it sweeps, else allele by allele.
-    const bool summedBySweep = inMeta && Sweeps(g, &pop, &pop + 1);
-    std::uint32_t* metaByAllele = inMeta && !summedBySweep ? meta : nullptr;
+    const bool inMeta = m.populations > 1 && p < tallied;
     Tally tally;
-    if (g.wide()) Count<32>(g, pop.members, own, tally, metaByAllele, inMeta ? &metaTally : nullptr);
-    else Count<16>(g, pop.members, own, tally, metaByAllele, inMeta ? &metaTally : nullptr);
-    Settle(g, &pop, &pop + 1, own, tally, summedBySweep ? meta : nullptr);
+    if (sorting) {
+      for (const Individual& ind : pop.members) {
+        tally.add(ind);
+        if (inMeta) metaTally.add(ind);
+      }
+      CountBySorting(g, &pop, &pop + 1, world.alleleCounts, tally);
+    } else {
+      CountByTable(g, pop, own, tally, inMeta ? meta : nullptr, inMeta ? &metaTally : nullptr);
+    }
     Census& census = record.at(p, world.year);
     tally.store(g.shape().neutralLoci, census);
     census.extinct = pop.extinct;
@@ -193,8 +241,10 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
     if (world.year == 0) pop.initialGeneDiversity = census.geneDiversity;
     if (inMeta) females += pop.counts.females, males += pop.counts.males;
   }
-  if (!meta) return;
-  Settle(g, world.pops.data(), world.pops.data() + tallied, meta, metaTally, nullptr);
+  if (m.populations == 1) return;
+  const PopulationState* pops = world.pops.data();
+  if (sorting) CountBySorting(g, pops, pops + tallied, world.alleleCounts, metaTally);
+  else Settle(g, pops, pops + tallied, meta, metaTally, nullptr);
   Census& census = record.at(m.populations, world.year);
   metaTally.store(g.shape().neutralLoci, census);
   census.extinct = Extinct(m, census.n, females, males);

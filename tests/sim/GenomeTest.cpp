@@ -68,3 +68,25 @@ TEST(SimGenome, LargeFoundingPopulationsKeepEveryFounderAllele) {
 
 }  // namespace
 }  // namespace tamsic::test
+
+namespace tamsic::test {
+namespace {
+
+// Many neutral loci and many founders would need a table of counts larger
+// than the individuals; the census then sorts each locus' alleles instead,
+// with the same results: all founder alleles distinct at the start.
+TEST(SimGenome, CensusWithoutATableForManyLociAndFounders) {
+  SimScenario many("Many", 2, 4300, 9000);
+  many.text(F("txtNumIter"), "1").text(F("txtNumYear"), "1").text(F("txtGenMgtNumNeutralLoci"), "1000");
+  const RunOutput out = RunScenario({many}, "Many", "SEED3");
+  ASSERT_TRUE(out.reply.starts_with("Message")) << out.reply;
+  for (const Block& block : out.blocks) {
+    const double n = block[0][kAll];
+    EXPECT_EQ(block[0][kAlleles], 2 * n);
+    EXPECT_NEAR(block[0][kGeneDiv], 1 - 1 / (2 * n), 1e-6);
+    EXPECT_GT(block[1][kGeneDiv], 0.999);
+  }
+}
+
+}  // namespace
+}  // namespace tamsic::test
