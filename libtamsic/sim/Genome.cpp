@@ -74,6 +74,8 @@ void GenomePool::reset(const GenomeShape& shape, std::uint64_t seed) {
   nextAllele_ = 0;
   const double share = std::clamp(shape.lethalShare, 0.0, 1.0);
   lethalThreshold_ = share >= 1.0 ? ~0ULL : static_cast<std::uint64_t>(share * 0x1.0p64);
+  lethalWords_ = static_cast<std::size_t>((shape.lethalLoci + 63) / 64);
+  lethalBits_.clear();
   layout(false);
   words_.clear();
   freeCount_ = 0;
@@ -145,7 +147,15 @@ std::uint32_t GenomePool::addFounder(std::uint8_t& lethals) {
       for (std::size_t w = 0; w < kBlockWords; ++w) out[kBlockWords * (2 * b + h) + w] = word;
   }
   int count = 0;
-  for (int l = shape_.ibdLoci; l < shape_.loci(); ++l) count += lethal(first, l) + lethal(first + 1, l);
+  lethalBits_.resize(lethalBits_.size() + 2 * lethalWords_, 0);
+  for (std::uint32_t allele : {first, first + 1}) {
+    std::uint64_t* bits = &lethalBits_[allele * lethalWords_];
+    for (int j = 0; j < shape_.lethalLoci; ++j) {
+      const bool is = lethal(allele, shape_.ibdLoci + j);
+      bits[j / 64] |= static_cast<std::uint64_t>(is) << (j % 64);
+      count += is;
+    }
+  }
   lethals = static_cast<std::uint8_t>(std::min(count, 255));
   return slot;
 }
@@ -190,12 +200,12 @@ Newborn GenomePool::child(std::uint32_t dam, std::uint32_t sire, Random& random)
   Newborn born{slot, static_cast<float>(identical) / static_cast<float>(shape_.ibdLoci), 0, true};
   if (shape_.lethalLoci > 0) {
     int lethals = 0;
-    for (int l = shape_.ibdLoci; l < shape_.loci(); ++l) {
-      const std::uint32_t a = Lane<Bits>(out, 0, l);
-      const std::uint32_t b = Lane<Bits>(out, 1, l);
-      const bool lethalA = lethal(a, l);
-      lethals += lethalA + lethal(b, l);
-      if (lethalA && a == b) born.viable = false;
+    for (int j = 0; j < shape_.lethalLoci; ++j) {
+      const std::uint32_t a = Lane<Bits>(out, 0, shape_.ibdLoci + j);
+      const std::uint32_t b = Lane<Bits>(out, 1, shape_.ibdLoci + j);
+      const bool lethalA = isLethal(a, j);
+      lethals += lethalA + isLethal(b, j);
+      born.viable &= !(lethalA && a == b);
     }
     born.lethals = static_cast<std::uint8_t>(std::min(lethals, 255));
   }

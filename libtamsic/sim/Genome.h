@@ -6,7 +6,8 @@
 // neutralLoci of them are the neutral loci whose diversity is reported);
 // the lethalLoci after them carry recessive lethals: founder allele h is
 // lethal at lethal locus l when a hash of (h, l, seed) falls below the
-// lethal share, so no table of lethal alleles is stored. Slots of the dead
+// lethal share; the hash is taken once, when the founder is made, and kept
+// as a bit per lethal locus of each founder allele. Slots of the dead
 // are reused, so a year allocates nothing once the pool has grown.
 //
 // A genome packs the alleles of its loci into 16-byte blocks: 16 bits an
@@ -121,6 +122,10 @@ class GenomePool {
   void widen();
   std::uint32_t take();
   bool lethal(std::uint32_t allele, int locus) const;
+  bool isLethal(std::uint32_t allele, int lethalLocus) const {
+    const std::size_t bit = allele * lethalWords_ * 64 + static_cast<std::size_t>(lethalLocus);
+    return (lethalBits_[bit / 64] >> (bit % 64)) & 1u;
+  }
   template <int Bits>
   Newborn child(std::uint32_t dam, std::uint32_t sire, Random& random);
   template <int Bits>
@@ -133,6 +138,8 @@ class GenomePool {
   std::uint64_t seed_ = 0;
   std::uint32_t nextAllele_ = 0;
   std::uint64_t lethalThreshold_ = 0;
+  std::size_t lethalWords_ = 0;             // per founder allele
+  std::vector<std::uint64_t> lethalBits_;  // bit l of allele a: lethal at lethal locus l
   std::vector<std::uint64_t, CacheAligned<std::uint64_t>> words_;
   std::vector<std::uint64_t> ibdLanes_;  // per haplotype block: its identity-locus lanes all ones (two words)
   std::vector<std::uint32_t> free_;  // slots of the dead in free_[0 .. freeCount_)
