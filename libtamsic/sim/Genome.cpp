@@ -59,6 +59,24 @@ void Store(void* to, const V& v) {
   std::memcpy(to, &v, sizeof v);
 }
 
+// 64 random bits starting at bit `first` of a row of draws (which has a
+// zero word after its last).
+std::uint64_t BitsFrom(const std::uint64_t* draws, std::size_t first) {
+  const std::size_t word = first / 64;
+  const std::size_t shift = first % 64;
+  return shift == 0 ? draws[word] : (draws[word] >> shift) | (draws[word + 1] << (64 - shift));
+}
+
+// Counting bits without relying on a processor instruction that not every machine has.
+int Popcount(std::uint64_t x) {
+  x = x - ((x >> 1) & 0x5555555555555555ULL);
+  x = (x & 0x3333333333333333ULL) + ((x >> 2) & 0x3333333333333333ULL);
+  x = (x + (x >> 4)) & 0x0f0f0f0f0f0f0f0fULL;
+  return static_cast<int>((x * 0x0101010101010101ULL) >> 56);
+}
+
+int CountTrailingZeros(std::uint64_t x) { return Popcount((x & -x) - 1); }
+
 template <int Bits>
 constexpr std::uint64_t Repeat(std::uint64_t lane) {
   std::uint64_t word = 0;
@@ -75,7 +93,6 @@ void GenomePool::reset(const GenomeShape& shape, std::uint64_t seed) {
   const double share = std::clamp(shape.lethalShare, 0.0, 1.0);
   lethalThreshold_ = share >= 1.0 ? ~0ULL : static_cast<std::uint64_t>(share * 0x1.0p64);
   lethalWords_ = static_cast<std::size_t>((shape.lethalLoci + 63) / 64);
-  lethalBits_.clear();
   layout(false);
   words_.clear();
   freeCount_ = 0;
@@ -86,7 +103,10 @@ void GenomePool::layout(bool wide) {
   const int lanes = wide ? kLanes<32> : kLanes<16>;
   const int bits = 128 / lanes;
   blocks_ = static_cast<std::size_t>((shape_.loci() + lanes - 1) / lanes);
-  stride_ = (2 * kBlockWords * blocks_ + kLineWords - 1) / kLineWords * kLineWords;
+  lethalAt_ = 2 * kBlockWords * blocks_;
+  // Each parent draws 64 bits for every 64 loci; a zero word closes each row.
+  draws_.assign(2 * (static_cast<std::size_t>(shape_.loci() + 63) / 64 + 1), 0);
+  stride_ = (lethalAt_ + 2 * lethalWords_ + kLineWords - 1) / kLineWords * kLineWords;
   // All ones in the lanes that hold identity loci, block by block.
   ibdLanes_.assign(kBlockWords * blocks_, 0);
   for (int l = 0; l < shape_.ibdLoci; ++l) {
@@ -98,7 +118,8 @@ void GenomePool::layout(bool wide) {
 
 void GenomePool::reserve(const GenomeShape& shape, std::size_t genomes) {
   const std::size_t blocks = static_cast<std::size_t>((shape.loci() + kLanes<16> - 1) / kLanes<16>);
-  const std::size_t perGenome = (2 * kBlockWords * blocks + kLineWords - 1) / kLineWords * kLineWords;
+  const std::size_t lethalWords = static_cast<std::size_t>((shape.lethalLoci + 63) / 64);
+  const std::size_t perGenome = (2 * kBlockWords * blocks + 2 * lethalWords + kLineWords - 1) / kLineWords * kLineWords;
   if (genomes > words_.max_size() / perGenome) throw std::bad_alloc();
   words_.reserve(genomes * perGenome);
   free_.resize(std::max(free_.size(), genomes));
@@ -108,6 +129,7 @@ void GenomePool::reserve(const GenomeShape& shape, std::size_t genomes) {
 void GenomePool::widen() {
   const auto narrow = std::move(words_);
   const std::size_t narrowStride = stride_;
+  const std::size_t narrowLethalAt = lethalAt_;
   const std::size_t slots = narrowStride ? narrow.size() / narrowStride : 0;
   layout(true);
   words_.assign(slots * stride_, 0);
@@ -120,6 +142,7 @@ void GenomePool::widen() {
         to[kBlockWords * static_cast<std::size_t>(2 * (l / kLanes<32>) + h) + static_cast<std::size_t>(lane / 2)] |=
             static_cast<std::uint64_t>(Lane<16>(from, h, l)) << (32 * (lane % 2));
       }
+    std::copy_n(from + narrowLethalAt, 2 * lethalWords_, to + lethalAt_);
   }
 }
 
@@ -147,15 +170,14 @@ std::uint32_t GenomePool::addFounder(std::uint8_t& lethals) {
       for (std::size_t w = 0; w < kBlockWords; ++w) out[kBlockWords * (2 * b + h) + w] = word;
   }
   int count = 0;
-  lethalBits_.resize(lethalBits_.size() + 2 * lethalWords_, 0);
-  for (std::uint32_t allele : {first, first + 1}) {
-    std::uint64_t* bits = &lethalBits_[allele * lethalWords_];
+  std::uint64_t* bits = out + lethalAt_;
+  std::fill_n(bits, 2 * lethalWords_, 0);
+  for (std::size_t h = 0; h < 2; ++h)
     for (int j = 0; j < shape_.lethalLoci; ++j) {
-      const bool is = lethal(allele, shape_.ibdLoci + j);
-      bits[j / 64] |= static_cast<std::uint64_t>(is) << (j % 64);
+      const bool is = lethal(first + static_cast<std::uint32_t>(h), shape_.ibdLoci + j);
+      bits[h * lethalWords_ + static_cast<std::size_t>(j / 64)] |= static_cast<std::uint64_t>(is) << (j % 64);
       count += is;
     }
-  }
   lethals = static_cast<std::uint8_t>(std::min(count, 255));
   return slot;
 }
@@ -179,9 +201,13 @@ Newborn GenomePool::child(std::uint32_t dam, std::uint32_t sire, Random& random)
   // One random bit per locus and parent says which of the parent's two
   // haplotypes passes that locus on; a mask applies a block's worth at once.
   Same same{};  // -1 in a lane for each identity locus found identical there
+  std::uint64_t* draws = draws_.data();  // the dam's draws, then the sire's
+  const std::size_t drawCount = draws_.size() / 2;
   for (std::size_t base = 0; base < blocks_; base += blocksPerDraw) {
     std::uint64_t fromDam = random.bits64();
     std::uint64_t fromSire = random.bits64();
+    draws[base / blocksPerDraw] = fromDam;
+    draws[drawCount + base / blocksPerDraw] = fromSire;
     const std::size_t end = std::min(blocks_, base + blocksPerDraw);
     for (std::size_t b = base; b < end; ++b) {
       const auto m = Load<Lanes>(&kMasks<Bits>[fromDam & group]);
@@ -198,18 +224,34 @@ Newborn GenomePool::child(std::uint32_t dam, std::uint32_t sire, Random& random)
   int identical = 0;
   for (int k = 0; k < lanes; ++k) identical -= same[k];
   Newborn born{slot, static_cast<float>(identical) / static_cast<float>(shape_.ibdLoci), 0, true};
-  if (shape_.lethalLoci > 0) {
-    int lethals = 0;
-    for (int j = 0; j < shape_.lethalLoci; ++j) {
-      const std::uint32_t a = Lane<Bits>(out, 0, shape_.ibdLoci + j);
-      const std::uint32_t b = Lane<Bits>(out, 1, shape_.ibdLoci + j);
-      const bool lethalA = isLethal(a, j);
-      lethals += lethalA + isLethal(b, j);
-      born.viable &= !(lethalA && a == b);
-    }
-    born.lethals = static_cast<std::uint8_t>(std::min(lethals, 255));
-  }
+  if (shape_.lethalLoci > 0) passLethals<Bits>(mother, father, out, draws, drawCount, born);
   return born;
+}
+
+// The lethal bits of a newborn: each haplotype's bit at a lethal locus comes
+// from the parent's haplotype whose allele passed on there, chosen by the
+// same random bit. A newborn with the same lethal allele twice dies.
+template <int Bits>
+void GenomePool::passLethals(const std::uint64_t* mother, const std::uint64_t* father, std::uint64_t* out,
+                         const std::uint64_t* draws, std::size_t drawCount, Newborn& born) const {
+  int lethals = 0;
+  for (std::size_t w = 0; w < lethalWords_; ++w) {
+    const std::size_t first = static_cast<std::size_t>(shape_.ibdLoci) + 64 * w;  // locus of bit 0
+    const std::uint64_t dam = BitsFrom(draws, first);
+    const std::uint64_t sire = BitsFrom(draws + drawCount, first);
+    const std::uint64_t* m = mother + lethalAt_;
+    const std::uint64_t* f = father + lethalAt_;
+    const std::uint64_t maternal = (m[w] & ~dam) | (m[lethalWords_ + w] & dam);
+    const std::uint64_t paternal = (f[w] & ~sire) | (f[lethalWords_ + w] & sire);
+    out[lethalAt_ + w] = maternal;
+    out[lethalAt_ + lethalWords_ + w] = paternal;
+    lethals += Popcount(maternal) + Popcount(paternal);
+    for (std::uint64_t both = maternal & paternal; both != 0; both &= both - 1) {
+      const int locus = static_cast<int>(first) + CountTrailingZeros(both);
+      if (Lane<Bits>(out, 0, locus) == Lane<Bits>(out, 1, locus)) born.viable = false;
+    }
+  }
+  born.lethals = static_cast<std::uint8_t>(std::min(lethals, 255));
 }
 
 double GenomePool::kinship(std::uint32_t a, std::uint32_t b) const {

@@ -6,8 +6,9 @@
 // neutralLoci of them are the neutral loci whose diversity is reported);
 // the lethalLoci after them carry recessive lethals: founder allele h is
 // lethal at lethal locus l when a hash of (h, l, seed) falls below the
-// lethal share; the hash is taken once, when the founder is made, and kept
-// as a bit per lethal locus of each founder allele. Slots of the dead
+// lethal share. The hash is taken once, when the founder is made: each
+// haplotype carries a bit per lethal locus, set where its allele is lethal,
+// and a birth passes these bits on with the alleles. Slots of the dead
 // are reused, so a year allocates nothing once the pool has grown.
 //
 // A genome packs the alleles of its loci into 16-byte blocks: 16 bits an
@@ -87,6 +88,7 @@ class GenomePool {
     return wide_ ? Lane<32>(genome(slot), haplotype, locus) : Lane<16>(genome(slot), haplotype, locus);
   }
   // The packed words of a genome; read them with Lane<32> when wide(), Lane<16> otherwise.
+  // Its lethal bits follow the alleles.
   const std::uint64_t* genome(std::uint32_t slot) const { return &words_[slot * stride_]; }
   template <int Bits>
   static std::uint32_t Lane(const std::uint64_t* genome, int haplotype, int locus) {
@@ -122,14 +124,13 @@ class GenomePool {
   void widen();
   std::uint32_t take();
   bool lethal(std::uint32_t allele, int locus) const;
-  bool isLethal(std::uint32_t allele, int lethalLocus) const {
-    const std::size_t bit = allele * lethalWords_ * 64 + static_cast<std::size_t>(lethalLocus);
-    return (lethalBits_[bit / 64] >> (bit % 64)) & 1u;
-  }
   template <int Bits>
   Newborn child(std::uint32_t dam, std::uint32_t sire, Random& random);
   template <int Bits>
   int sharedAlleles(std::uint32_t a, std::uint32_t b) const;
+  template <int Bits>
+  void passLethals(const std::uint64_t* mother, const std::uint64_t* father, std::uint64_t* out,
+               const std::uint64_t* draws, std::size_t drawCount, Newborn& born) const;
 
   GenomeShape shape_;
   bool wide_ = false;
@@ -138,8 +139,9 @@ class GenomePool {
   std::uint64_t seed_ = 0;
   std::uint32_t nextAllele_ = 0;
   std::uint64_t lethalThreshold_ = 0;
-  std::size_t lethalWords_ = 0;             // per founder allele
-  std::vector<std::uint64_t> lethalBits_;  // bit l of allele a: lethal at lethal locus l
+  std::size_t lethalWords_ = 0;  // per haplotype: bit j set when lethal at lethal locus j
+  std::size_t lethalAt_ = 0;     // where the lethal bits start in a genome
+  std::vector<std::uint64_t> draws_;  // a birth's random bits, per parent, for the lethal loci
   std::vector<std::uint64_t, CacheAligned<std::uint64_t>> words_;
   std::vector<std::uint64_t> ibdLanes_;  // per haplotype block: its identity-locus lanes all ones (two words)
   std::vector<std::uint32_t> free_;  // slots of the dead in free_[0 .. freeCount_)

@@ -14,12 +14,17 @@ TEST(SimGenome, WideningKeepsEveryAlleleAndItsIdentity) {
   GenomeShape shape;
   shape.ibdLoci = 70;  // not a whole number of words
   shape.neutralLoci = 10;
+  shape.lethalLoci = 70;  // two words of lethal bits, starting mid-draw
+  shape.lethalShare = 0.3;
   GenomePool pool;
   pool.reset(shape, 9);
   Random random(9, 1);
   std::uint8_t lethals = 0;
   const std::uint32_t first = pool.addFounder(lethals);
+  EXPECT_GT(lethals, 20);  // about 0.3 of 2 x 70
+  EXPECT_LT(lethals, 65);
   const std::uint32_t second = pool.addFounder(lethals);
+  Random again = random;
   const Newborn child = pool.addChild(first, second, random);
   const Newborn selfed = pool.addChild(first, first, random);
   EXPECT_FALSE(pool.wide());
@@ -40,6 +45,13 @@ TEST(SimGenome, WideningKeepsEveryAlleleAndItsIdentity) {
     EXPECT_EQ(pool.allele(child.slot, 0, l), 0u + (pool.allele(child.slot, 0, l) & 1));  // from the first founder
     EXPECT_EQ(before[static_cast<std::size_t>(l)], pool.allele(child.slot, 0, l) << 16 | pool.allele(child.slot, 1, l));
   }
+  // The same birth after widening: the same alleles, identity and lethals.
+  const Newborn twin = pool.addChild(first, second, again);
+  for (int l = 0; l < shape.loci(); ++l)
+    for (int h = 0; h < 2; ++h) EXPECT_EQ(pool.allele(twin.slot, h, l), pool.allele(child.slot, h, l)) << l;
+  EXPECT_EQ(twin.inbreeding, child.inbreeding);
+  EXPECT_EQ(twin.lethals, child.lethals);
+  EXPECT_GT(child.lethals, 0);
   EXPECT_DOUBLE_EQ(pool.kinship(last, last), 0.5);
   EXPECT_DOUBLE_EQ(pool.kinship(first, last), 0.0);
   // Children after widening: alleles from their parents, none mistaken for another's.
