@@ -24,32 +24,22 @@ void PageEnablingTest::rules_data() {
   QTest::addColumn<QStringList>("steps");
   QTest::addColumn<QString>("control");
   QTest::addColumn<bool>("enabled");
-  QTest::newRow("depression on") << QStringList{} << "txtLethalEquiv" << true;
   QTest::newRow("depression off") << QStringList{"click chkDepress"} << "txtPercentLethal" << false;
   QTest::newRow("critical size unused") << QStringList{} << "txtExtinctN" << false;
   QTest::newRow("critical size used") << QStringList{"click optExtinctDef_1"} << "txtExtinctN" << true;
   QTest::newRow("hermaphrodites: no male age") << QStringList{"click optMPHLQ_2"} << "txtAgeReproM" << false;
   QTest::newRow("monogamy again") << QStringList{"click optMPHLQ_2", "click optMPHLQ_0"} << "txtSexRatio" << true;
   QTest::newRow("exact distribution: no mean") << QStringList{} << "gridRepRates2" << false;
-  QTest::newRow("exact distribution used") << QStringList{} << "gridRepRates3" << true;
   QTest::newRow("normal distribution") << QStringList{"click optUseMean_0"} << "gridRepRates2" << true;
-  QTest::newRow("normal: no exact") << QStringList{"click optUseMean_0"} << "gridRepRates3" << false;
-  QTest::newRow("stable ages: total") << QStringList{} << "gridInitPopStable" << true;
   QTest::newRow("stable ages: no ages") << QStringList{} << "gridInitPopMale" << false;
   QTest::newRow("given ages") << QStringList{"click optStartWith_1"} << "gridInitPopFemale" << true;
-  QTest::newRow("given ages: no total") << QStringList{"click optStartWith_1"} << "gridInitPopStable" << false;
-  QTest::newRow("no studbook") << QStringList{} << "cmdBrowseGenMgtImportStudbookFile" << false;
   QTest::newRow("studbook") << QStringList{"click chkGenMgtImportStudbookFile"} << "valtxtGenMgtImportStudbookFile" << true;
   QTest::newRow("allele file") << QStringList{"click chkGenMgtAlleleFreqs"} << "cmdBrowseGenMgtAlleleFreqs" << true;
-  QTest::newRow("kinship off") << QStringList{} << "SSOptGenMgtPairMK_1" << false;
   QTest::newRow("kinship on") << QStringList{"click chkGenMgtPairMeanKinship"} << "SSOptGenMgtPairMK_0" << true;
-  QTest::newRow("matings allowed") << QStringList{} << "valtxtGenMgtPairingLimitation" << false;
   QTest::newRow("matings limited") << QStringList{"click chkGenMgtPreventMatingsF"} << "valtxtGenMgtNumTimesTryFindMate" << true;
   QTest::newRow("one population: no EV correlation") << QStringList{} << "txtEV" << false;
   QTest::newRow("two populations") << QStringList{"type txtNumPop 2"} << "txtEV" << true;
-  QTest::newRow("one population: nothing to copy") << QStringList{} << "ssCMDCopyInputValues" << false;
   QTest::newRow("copy between two") << QStringList{"type txtNumPop 2"} << "cboPopulationPicker" << true;
-  QTest::newRow("no global variables") << QStringList{} << "gridGlobalVars" << false;
   QTest::newRow("global variables") << QStringList{"type txtNumGlobalVars 2"} << "gridGlobalVars" << true;
 }
 

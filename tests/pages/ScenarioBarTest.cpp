@@ -1,4 +1,6 @@
-// Adding, deleting, renaming, reordering and moving between scenarios.
+// Adding, deleting, renaming, reordering and moving between scenarios, as
+// the bar and its dialogs do them; the rules themselves are the core's and
+// its tests cover them.
 #include <QComboBox>
 #include <QTableWidget>
 #include <QPushButton>
@@ -14,9 +16,7 @@ class ScenarioBarTest : public QObject {
   Q_OBJECT
  private slots:
   void copiesOfATemplate();
-  void templateIsNeverAnSTScenario();
   void deleteAsksFirst();
-  void deleteRefusesSTScenarios();
   void renameRules_data();
   void renameRules();
   void reorderCautionsAndFollowsTheCurrentScenario();
@@ -57,20 +57,6 @@ void ScenarioBarTest::copiesOfATemplate() {
   QCOMPARE(h.undo.count(), 0);  // the numbers the history refers to are no longer sure
 }
 
-void ScenarioBarTest::templateIsNeverAnSTScenario() {
-  pagestest::Harness h;
-  AddNamed(h, {"Dry", "ST.Low"});
-  h.pages->showScenario(3);
-  int proposed = -1;
-  h.bar->runDialog = [&](QDialog& dialog) {
-    proposed = static_cast<frmNewScenario&>(dialog).lstTemplates->currentRow();
-    return false;
-  };
-  h.bar->addScenarios();
-  QCOMPARE(proposed, 1);  // "Dry", the last one that is not a sensitivity test
-  QCOMPARE(h.scenarios.Count(), std::size_t{3});
-}
-
 void ScenarioBarTest::deleteAsksFirst() {
   pagestest::Harness h;
   QVERIFY(!h.bar->cmdDeleteScene->isEnabled());  // the last scenario stays
@@ -88,23 +74,11 @@ void ScenarioBarTest::deleteAsksFirst() {
   QCOMPARE(h.box.shown.back().caption, h.strings.text(9115));
 }
 
-void ScenarioBarTest::deleteRefusesSTScenarios() {
-  pagestest::Harness h;
-  AddNamed(h, {"ST.High"});
-  h.bar->next();
-  h.box.expect("Cannot delete an ST scenario. Go to ST form to edit ST structure.");
-  h.bar->deleteScenario();
-  QCOMPARE(h.scenarios.Count(), std::size_t{2});
-}
-
 void ScenarioBarTest::renameRules_data() {
   QTest::addColumn<QString>("name");
   QTest::addColumn<QString>("message");
   QTest::newRow("another case of an existing name") << "DRY" << "Each scenario must have a unique name!";
-  QTest::newRow("question mark") << "Dry?" << "Scenario names cannot contain characters ( \\ / * or ?)";
-  QTest::newRow("backslash") << "a\\b" << "Scenario names cannot contain characters";
   QTest::newRow("its own name in capitals") << "BASELINE" << "";
-  QTest::newRow("colon and bar") << "Dry: 10|20" << "";
 }
 
 void ScenarioBarTest::renameRules() {

@@ -8,7 +8,6 @@
 #include <cmath>
 #include <filesystem>
 #include <map>
-#include <sstream>
 
 #include "SimTestSupport.h"
 #include "sim/LifeTable.h"
@@ -145,14 +144,7 @@ TEST(SimChecks, MetapopulationIsThePopulationsTogether) {
   ASSERT_TRUE(out.reply.starts_with("Message")) << out.reply;
   struct Final { double n, geneDiv, alleles; };
   std::map<std::string, std::map<std::string, Final>> finals;  // iteration -> population -> final state
-  std::istringstream in(out.runTable);
-  for (std::string line; std::getline(in, line);) {
-    if (line.empty() || line[0] == '$') continue;
-    std::vector<std::string> f;
-    std::istringstream cut(line);
-    for (std::string field; std::getline(cut, field, ';');) f.push_back(field);
-    finals[f[0]][f[1]] = {std::stod(f[4]), std::stod(f[5]), std::stod(f[7])};
-  }
+  for (const auto& f : DataLines(out.runTable)) finals[f[0]][f[1]] = {std::stod(f[4]), std::stod(f[5]), std::stod(f[7])};
   ASSERT_EQ(finals.size(), 8u);
   for (auto& [iteration, block] : finals) {
     const Final a = block["1"], b = block["2"], meta = block["Metapopulation"];

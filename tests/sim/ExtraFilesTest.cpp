@@ -5,7 +5,6 @@
 
 #include <map>
 #include <set>
-#include <sstream>
 
 #include "SimTestSupport.h"
 
@@ -14,21 +13,9 @@ namespace {
 
 using Rows = std::vector<std::vector<std::string>>;
 
-// The data lines of a ";" file, without "$" headings; lines end in CR LF.
 Rows Lines(const std::string& text) {
-  Rows rows;
-  std::istringstream in(text);
-  for (std::string line; std::getline(in, line);) {
-    EXPECT_TRUE(line.ends_with('\r')) << line;
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (line.empty() || line.front() == '$') continue;
-    std::vector<std::string> fields;
-    std::istringstream cut(line);
-    for (std::string field; std::getline(cut, field, ';');) fields.push_back(field);
-    if (line.back() == ';') fields.emplace_back();
-    rows.push_back(fields);
-  }
-  return rows;
+  EXPECT_EQ(text.find('\n'), text.empty() ? std::string::npos : text.find("\r\n") + 1) << "lines end in CR LF";
+  return DataLines(text);
 }
 
 SimScenario Small() {

@@ -155,4 +155,19 @@ RunOutput RunScenario(const std::vector<SimScenario>& scenarios, const std::stri
   return out;
 }
 
+std::vector<std::vector<std::string>> DataLines(const std::string& text) {
+  std::vector<std::vector<std::string>> rows;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.empty() || line.front() == '$') continue;
+    std::vector<std::string> fields;
+    std::istringstream cut(line);
+    for (std::string field; std::getline(cut, field, ';');) fields.push_back(field);
+    if (line.back() == ';') fields.emplace_back();
+    rows.push_back(fields);
+  }
+  return rows;
+}
+
 }  // namespace tamsic::test

@@ -50,6 +50,9 @@ std::filesystem::path SaveTestProject(const std::vector<SimScenario>& scenarios)
 // Saves the scenarios as project "T" in a fresh folder, runs the named one there and reads its files.
 RunOutput RunScenario(const std::vector<SimScenario>& scenarios, const std::string& name, const std::string& options);
 
+// The data lines of a ";" file, split into fields, without "$" headings.
+std::vector<std::vector<std::string>> DataLines(const std::string& text);
+
 // Field numbers of the yearly data.
 enum ResultField { kSurvive = 1, kDetR = 5, kStochR = 6, kStochRSE = 7, kExtant = 9, kAll = 12, kGeneDiv = 15,
                    kInbreeding = 18, kAlleles = 21, kLethals = 24, kMedianTE = 30 };
