@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <fstream>
 #include <sstream>
 
 #include "app/EnglishMessages.h"
 #include "files/ProjectFile.h"
 #include "sim/Runner.h"
+#include "support/TestFolder.h"
 
 namespace tamsic::test {
 
@@ -21,13 +21,6 @@ class FailingBox : public IMessageBox {
     return MsgAnswer::Ok;
   }
 };
-
-std::string ReadAll(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
-}
 
 std::vector<Block> ReadBlocks(const std::string& dat, const std::string& name, int years) {
   std::istringstream in(dat);

@@ -1,7 +1,7 @@
 #pragma once
 // An engine for tests and benchmarks of the front end: formula tests are
-// answered by a rule the test chooses and remembered; everything else is
-// answered with nothing.
+// answered by a rule the test chooses and remembered, a run is remembered and
+// answered with `runReply`; everything else is answered with nothing.
 #include <functional>
 #include <string>
 #include <vector>
@@ -13,7 +13,12 @@ namespace tamsic::test {
 
 class FakeEngine : public Engine {
  public:
-  std::string tamsicsim(const std::string&, const std::string&, const std::string&) override { return {}; }
+  std::string tamsicsim(const std::string& workFile, const std::string& bracedScenarios,
+                        const std::string& flags) override {
+    if (unavailable) throw EngineUnavailable("libtamsic.so: cannot open shared object file");
+    runs.push_back({workFile, bracedScenarios, flags});
+    return runReply;
+  }
   std::string tcheckin(const std::string&, std::int32_t) override { return {}; }
   std::string agedist(std::int16_t) override { return {}; }
   std::string detGraphValues(const std::string&, std::int32_t) override { return {}; }
@@ -33,6 +38,11 @@ class FakeEngine : public Engine {
   // As when the engine library cannot be loaded.
   bool unavailable = false;
   std::vector<std::string> formulas;
+  struct Run {
+    std::string workFile, scenarios, options;
+  };
+  std::vector<Run> runs;
+  std::string runReply = "Message: done";
 };
 
 }  // namespace tamsic::test
