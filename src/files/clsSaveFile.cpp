@@ -7,6 +7,7 @@
 #include "app/Errors.h"
 #include "files/AtomicFile.h"
 #include "files/TextCodec.h"
+#include "model/TextSplit.h"
 
 namespace tamsic {
 
@@ -22,18 +23,6 @@ std::string_view Trim(std::string_view text) {
   if (first == std::string_view::npos) return {};
   const auto last = text.find_last_not_of(" \t\r\n");
   return text.substr(first, last - first + 1);
-}
-
-std::vector<std::string_view> Split(std::string_view text, char separator) {
-  std::vector<std::string_view> parts;
-  std::size_t start = 0;
-  for (std::size_t at = text.find(separator); at != std::string_view::npos;
-       at = text.find(separator, start)) {
-    parts.push_back(text.substr(start, at - start));
-    start = at + 1;
-  }
-  parts.push_back(text.substr(start));
-  return parts;
 }
 
 std::string KeyOf(std::string_view line) {

@@ -5,6 +5,7 @@
 
 #include "model/GridLayouts.h"
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 
 namespace tamsic {
 
@@ -20,17 +21,6 @@ std::string_view Trim(std::string_view text) {
   const auto first = text.find_first_not_of(" \t\r");
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
-}
-
-std::vector<std::string_view> Split(std::string_view text, char separator) {
-  std::vector<std::string_view> parts;
-  std::size_t start = 0;
-  for (auto at = text.find(separator); at != std::string_view::npos; at = text.find(separator, start)) {
-    parts.push_back(text.substr(start, at - start));
-    start = at + 1;
-  }
-  parts.push_back(text.substr(start));
-  return parts;
 }
 
 // Populations of the matrix: rows and columns 1 .. rows-1.

@@ -4,28 +4,18 @@
 #include <vector>
 
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 
 namespace tamsic {
 
 namespace {
 
-std::vector<std::string> Split(const std::string& text, char separator) {
-  std::vector<std::string> parts;
-  std::size_t start = 0;
-  for (auto at = text.find(separator); at != std::string::npos; at = text.find(separator, start)) {
-    parts.push_back(text.substr(start, at - start));
-    start = at + 1;
-  }
-  parts.push_back(text.substr(start));
-  return parts;
-}
-
 bool IsError(const std::string& reply) { return reply.rfind("Error", 0) == 0; }
 
 // One population's row from "f1;f2;...:m1;m2;...", ages from column 1.
-void FillRow(Grid& grid, std::size_t row, const std::string& counts) {
+void FillRow(Grid& grid, std::size_t row, std::string_view counts) {
   const auto ages = Split(counts, ';');
-  for (std::size_t c = 1; c < grid.cols(); ++c) grid.at(row, c) = c <= ages.size() ? ages[c - 1] : "0";
+  for (std::size_t c = 1; c < grid.cols(); ++c) grid.at(row, c) = c <= ages.size() ? std::string(ages[c - 1]) : "0";
 }
 
 }  // namespace
@@ -45,7 +35,7 @@ std::optional<std::string> ApplyStableAgeDistribution(clsScenario& scenario, std
     if (IsError(reply)) return reply;
     const auto sexes = Split(reply, ':');
     FillRow(females, p, sexes[0]);
-    FillRow(males, p, sexes.size() > 1 ? sexes[1] : "");
+    FillRow(males, p, sexes.size() > 1 ? sexes[1] : std::string_view());
   }
   scenario.SetGrid(F("gridInitPopFemale"), std::move(females));
   scenario.SetGrid(F("gridInitPopMale"), std::move(males));

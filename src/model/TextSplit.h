@@ -1,0 +1,20 @@
+#pragma once
+// A text cut at a separator: the pieces between separators, empty ones
+// included, as views into the text (which must outlive them).
+#include <string_view>
+#include <vector>
+
+namespace tamsic {
+
+inline std::vector<std::string_view> Split(std::string_view text, char separator) {
+  std::vector<std::string_view> parts;
+  std::size_t start = 0;
+  for (auto at = text.find(separator); at != std::string_view::npos; at = text.find(separator, start)) {
+    parts.push_back(text.substr(start, at - start));
+    start = at + 1;
+  }
+  parts.push_back(text.substr(start));
+  return parts;
+}
+
+}  // namespace tamsic
