@@ -18,3 +18,14 @@ inline std::vector<std::string_view> Split(std::string_view text, char separator
 }
 
 }  // namespace tamsic
+
+namespace tamsic {
+
+// The text without blanks and tabs at either end.
+inline std::string_view Trim(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+}  // namespace tamsic
