@@ -4,6 +4,7 @@
 // "Y5"), free codes after them ("SEED42", "THREADS2"), and the run mode last.
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace tamsic::sim {
@@ -21,6 +22,7 @@ struct Options {
   long long reserveIndividuals = 0;   // W: room for so many living individuals per thread
   std::optional<std::uint64_t> seed;  // SEED<n>
   int threads = 0;                    // THREADS<n>; 0: every core
+  std::string runMode;                // "+" resumed or "META" stepwise; empty for a normal run
 
   bool censusOf(int iteration) const {
     return censusFile && (censusIterations <= 0 || iteration <= censusIterations);

@@ -92,6 +92,10 @@ std::string Run(const std::string& workFile, const std::string& bracedList, cons
   const std::vector<std::string> names = ScenarioNames(bracedList);
   if (names.empty()) throw SimError("no scenario was named to run");
   const Options options = ParseOptions(optionText);
+  // Refused rather than run as a normal run, which the user did not ask for.
+  if (!options.runMode.empty())
+    throw SimError(std::string("the ") + (options.runMode == "+" ? "resumed" : "stepwise") +
+                   " run is not available in this engine yet; use Run");
   const std::uint64_t seed = options.seed ? *options.seed : std::random_device{}() ^ (std::uint64_t(std::random_device{}()) << 32);
   RunMonitor::get().start(TotalIterations(project, names));
   std::string summary;

@@ -2,6 +2,7 @@
 
 #include <dlfcn.h>
 
+#include <mutex>
 #include <optional>
 
 namespace tamsic {
@@ -72,6 +73,13 @@ std::filesystem::path ExecutableFolder() {
 
 namespace {
 
+// The run's progress is asked from a second thread while the first call may
+// still be loading the library, so loading and looking are under one lock.
+std::mutex& LoadLock() {
+  static std::mutex lock;
+  return lock;
+}
+
 std::optional<LoadedEngine>& Loaded() {
   static std::optional<LoadedEngine> loaded;
   return loaded;
@@ -79,9 +87,14 @@ std::optional<LoadedEngine>& Loaded() {
 
 }  // namespace
 
-bool EngineLibrary::loaded() { return Loaded().has_value(); }
+bool EngineLibrary::loaded() {
+  const std::lock_guard hold(LoadLock());
+  return Loaded().has_value();
+}
 
+// The library is never unloaded, so the reference stays good after the lock is let go.
 const LoadedEngine& EngineLibrary::get() {
+  const std::lock_guard hold(LoadLock());
   std::optional<LoadedEngine>& loaded = Loaded();
   if (!loaded) {
     std::vector<std::string> candidates;

@@ -2,15 +2,11 @@
 
 #include <array>
 
+#include "model/TextSplit.h"
+
 namespace tamsic {
 
 namespace {
-
-std::string Trimmed(const std::string& text) {
-  const auto first = text.find_first_not_of(" \t");
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
 
 // The tag of each switch: its code letter, and "*" when it takes the value of its box.
 constexpr std::array<const char*, 10> kTags = {"S", "T*", "X", "M", "B", "A", "Y*", "R", "W*", "N"};
@@ -32,11 +28,11 @@ std::string Flags(const SpecialOptions& options) {
     if (options.checked[i] != 1) continue;
     const std::string tag = kTags[i];
     flags += tag.front();
-    if (tag.find('*') != std::string::npos) flags += Trimmed(*ValueBox(options, i));
+    if (tag.find('*') != std::string::npos) flags += Trim(*ValueBox(options, i));
     flags += ";";
   }
   if (!flags.empty()) flags.pop_back();
-  const std::string extra = Trimmed(options.undocumented);
+  const std::string extra(Trim(options.undocumented));
   if (!extra.empty()) flags = flags.empty() ? extra : flags + ";" + extra;
   return flags;
 }

@@ -23,24 +23,36 @@ std::string OptionsString(const std::string& flags, const std::string& runMode) 
   return IsBlank(flags) ? runMode : flags + ";" + runMode;
 }
 
-std::optional<std::string> Run(Engine& engine, IBusyCursor& cursor, Messages& messages,
-                               const RunRequest& request) {
+CallResult CallEngine(Engine& engine, const RunRequest& request) {
   const std::string list = std::string("{").append(TrimScenarioList(request.scenarioList)) + "}";
-  const std::string options = OptionsString(request.flags, request.runMode);
-  std::string reply;
   try {
-    BusyScope busy(cursor);
-    reply = engine.tamsicsim(request.workFile.string(), list, options);
+    return {engine.tamsicsim(request.workFile.string(), list, OptionsString(request.flags, request.runMode)), {}};
   } catch (const std::exception& failure) {
-    messages.show(messages.text(msg::kUnableToRunSimulation) + "\n\n" + failure.what(),
-                  msg::kError, MsgIcon::Critical);
+    return {std::nullopt, failure.what()};
+  }
+}
+
+std::optional<std::string> Conclude(Messages& messages, const RunRequest& request, CallResult result) {
+  if (!result.reply) {
+    messages.show(messages.text(msg::kUnableToRunSimulation) + "\n\n" + result.failure, msg::kError,
+                  MsgIcon::Critical);
     return std::nullopt;
   }
-  if (reply.starts_with("Message")) {
+  if (result.reply->starts_with("Message")) {
     std::error_code ignored;
     std::filesystem::remove(request.workFile, ignored);
   }
-  return reply;
+  return result.reply;
+}
+
+std::optional<std::string> Run(Engine& engine, IBusyCursor& cursor, Messages& messages,
+                               const RunRequest& request) {
+  CallResult result;
+  {
+    BusyScope busy(cursor);
+    result = CallEngine(engine, request);
+  }
+  return Conclude(messages, request, std::move(result));
 }
 
 }  // namespace tamsic::basSimulation

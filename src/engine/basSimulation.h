@@ -29,7 +29,22 @@ std::string TrimScenarioList(std::string list);
 // flags alone when there is no mode.
 std::string OptionsString(const std::string& flags, const std::string& runMode);
 
-// The engine's reply, or nothing when the call failed (the user was told).
+// What the engine call gave: its reply, or why the call itself failed.
+struct CallResult {
+  std::optional<std::string> reply;
+  std::string failure;
+};
+
+// The engine call alone, with no message and no cursor, so that it may run
+// on a thread of its own while the windows keep painting.
+CallResult CallEngine(Engine& engine, const RunRequest& request);
+
+// After the call, on the thread that shows messages: a failed call is told
+// as "Unable to run simulation" with its cause; a normal end deletes the
+// work file. The engine's reply, or nothing when the call failed.
+std::optional<std::string> Conclude(Messages& messages, const RunRequest& request, CallResult result);
+
+// Both, under the hourglass, for callers that wait on their own thread.
 std::optional<std::string> Run(Engine& engine, IBusyCursor& cursor, Messages& messages,
                                const RunRequest& request);
 

@@ -18,13 +18,6 @@ constexpr char kBackQuote = '`';
 constexpr char kOldColon = static_cast<char>(252);
 constexpr char kOldSemicolon = static_cast<char>(253);
 
-std::string_view Trim(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r\n");
-  if (first == std::string_view::npos) return {};
-  const auto last = text.find_last_not_of(" \t\r\n");
-  return text.substr(first, last - first + 1);
-}
-
 std::string KeyOf(std::string_view line) {
   const auto equals = line.find('=');
   return equals == std::string_view::npos ? std::string() : std::string(Trim(line.substr(0, equals)));

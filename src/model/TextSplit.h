@@ -21,11 +21,12 @@ inline std::vector<std::string_view> Split(std::string_view text, char separator
 
 namespace tamsic {
 
-// The text without blanks and tabs at either end.
+// The text without blanks, tabs and line ends at either end.
 inline std::string_view Trim(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t");
+  constexpr std::string_view kBlank = " \t\r\n";
+  const auto first = text.find_first_not_of(kBlank);
   if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+  return text.substr(first, text.find_last_not_of(kBlank) - first + 1);
 }
 
 }  // namespace tamsic

@@ -17,12 +17,6 @@ std::string Fixed2(double value) {
   return buffer;
 }
 
-std::string_view Trim(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
-}
-
 // Populations of the matrix: rows and columns 1 .. rows-1.
 template <typename Visit>
 void ForEachOffDiagonal(Grid& rates, Visit visit) {

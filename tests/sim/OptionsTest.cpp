@@ -32,6 +32,11 @@ TEST(SimOptions, WordsThatOnlyBeginWithACodeMeanNothing) {
   EXPECT_FALSE(o.seed.has_value());
   EXPECT_EQ(ParseOptions("T").translocationSurvival, 100.0);
   EXPECT_FALSE(ParseOptions("SEEDx").seed.has_value());
+  // META is the stepwise run mode, not a code word that begins with M.
+  EXPECT_FALSE(o.noDispersalIntoFull);
+  EXPECT_EQ(o.runMode, "META");
+  EXPECT_EQ(ParseOptions("S;Y5;+").runMode, "+");
+  EXPECT_EQ(ParseOptions("S;Y5").runMode, "");
 }
 
 }  // namespace

@@ -70,6 +70,7 @@ void mdiMain::buildMenus() {
   buildFileMenu();
   buildEditMenu();
   buildProjectMenu();
+  buildSimulationMenu();
   buildWindowMenu();
   buildHelpMenu();
 }
@@ -122,6 +123,12 @@ void mdiMain::buildProjectMenu() {
   menuBar()->addMenu(text(9028))->addActions({mniAddName_, mniEditName_, mniRemoveName_});
 }
 
+void mdiMain::buildSimulationMenu() {
+  mniRunSim_ = action("mniRunSim", 9012);
+  mniRunSim_->setShortcut(QKeySequence(Qt::Key_F5));
+  menuBar()->addMenu(text(9011))->addAction(mniRunSim_);
+}
+
 void mdiMain::buildWindowMenu() {
   mniCascade_ = action("mniCascade", 9019);
   mniTileH_ = action("mniTileH", 9020);
@@ -154,6 +161,8 @@ void mdiMain::buildToolbar() {
   add("tblCut", 1404, QIcon::fromTheme("edit-cut"));
   add("tblCopy", 1405, QIcon::fromTheme("edit-copy"));
   add("tblPaste", 1406, QIcon::fromTheme("edit-paste"));
+  toolbar_->addSeparator();
+  tblRun_ = add("tblRun", 1412, ThemeIcon("media-playback-start", look, QStyle::SP_MediaPlay));
 }
 
 void mdiMain::wireSignals() {
@@ -182,6 +191,9 @@ void mdiMain::wireSignals() {
   connect(mniRemoveName_, &QAction::triggered, this, [this] {
     if (frmProject* project = activeProject()) project->removeUserName();
   });
+  connect(mniRunSim_, &QAction::triggered, this, [this] {
+    if (frmProject* project = activeProject()) project->runSimulation();
+  });
   connect(mniCascade_, &QAction::triggered, mdiArea_, &QMdiArea::cascadeSubWindows);
   connect(mniTileH_, &QAction::triggered, this, [this] { TileHorizontally(*mdiArea_); });
   connect(mniTileV_, &QAction::triggered, this, [this] { TileVertically(*mdiArea_); });
@@ -199,6 +211,7 @@ void mdiMain::toolbarAction(QAction* item) {
   else if (key == "tblCut") sendKeyToFocus(Qt::Key_X);
   else if (key == "tblCopy") sendKeyToFocus(Qt::Key_C);
   else if (key == "tblPaste") sendKeyToFocus(Qt::Key_V);
+  else if (key == "tblRun") mniRunSim_->trigger();
 }
 
 // The focused control gets the keystroke itself, so that grids and text boxes
@@ -237,7 +250,7 @@ void mdiMain::checkCurrentLanguage() {
 void mdiMain::updateCommands() {
   const bool project = activeProject() != nullptr;
   for (QAction* item : {mniCloseProject_, mniSave_, mniSaveAs_, tblSave_, mniAddName_,
-                        mniEditName_, mniRemoveName_})
+                        mniEditName_, mniRemoveName_, mniRunSim_, tblRun_})
     item->setEnabled(project);
 }
 

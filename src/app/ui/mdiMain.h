@@ -38,6 +38,7 @@ class mdiMain : public QMainWindow {
   void buildFileMenu();
   void buildEditMenu();
   void buildProjectMenu();
+  void buildSimulationMenu();
   void buildWindowMenu();
   void buildHelpMenu();
   void buildToolbar();
@@ -78,10 +79,12 @@ class mdiMain : public QMainWindow {
   QAction* mniAddName_ = nullptr;
   QAction* mniEditName_ = nullptr;
   QAction* mniRemoveName_ = nullptr;
+  QAction* mniRunSim_ = nullptr;
   QAction* mniCascade_ = nullptr;
   QAction* mniTileH_ = nullptr;
   QAction* mniTileV_ = nullptr;
   QAction* mniArrange_ = nullptr;
   QAction* mniAbout_ = nullptr;
   QAction* tblSave_ = nullptr;
+  QAction* tblRun_ = nullptr;
 };

@@ -1,8 +1,9 @@
 #include "pages/ui/frmProject.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <filesystem>
+#include <QDir>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
@@ -10,16 +11,23 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QUndoStack>
 #include <QVBoxLayout>
 
 #include "app/Errors.h"
 #include "app/ui/Program.h"
+#include "engine/SpecialOptionsFlags.h"
 #include "engine/WorkFile.h"
+#include "engine/basSimulation.h"
+#include "engine/ui/TextOutputPage.h"
+#include "engine/ui/frmRunProgress.h"
+#include "engine/ui/frmSimRun.h"
 #include "files/ProjectFile.h"
 #include "files/TextCodec.h"
 #include "pages/StableAgeDistribution.h"
 #include "pages/ui/InputPages.h"
+#include "pages/ui/ProjectSettingsPage.h"
 #include "pages/ui/ScenarioBar.h"
 
 namespace {
@@ -31,6 +39,19 @@ QString FromFile(const std::string& text) {
 }
 
 std::string ToFile(const QString& text) { return tamsic::Utf8ToCp1252(text.toStdString()); }
+
+// The hourglass over the whole program, for an engine that cannot report progress.
+class WaitCursor : public tamsic::IBusyCursor {
+ public:
+  void setBusy(bool busy) override {
+    if (busy)
+      QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+      QApplication::restoreOverrideCursor();
+  }
+};
+
+constexpr int kRunCancelled = 8221;
 
 }  // namespace
 
@@ -51,7 +72,7 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
   stbProject_->setSizeGripEnabled(false);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(buildHeader());
-  layout->addWidget(buildPageArea(), 1);
+  layout->addWidget(buildTabs(), 1);
   layout->addWidget(stbProject_);
   wireSignals();
   refreshLinks();
@@ -92,6 +113,19 @@ QWidget* frmProject::buildPageArea() {
   return area;
 }
 
+QWidget* frmProject::buildTabs() {
+  tabs_ = new QTabWidget(this);
+  tabs_->setObjectName("tabProject");
+  tabs_->addTab(buildPageArea(), text(1413));
+  settingsPage_ = new ProjectSettingsPage(program_, state_, tabs_);
+  tabs_->addTab(settingsPage_, text(1700));
+  textOutput_ = new TextOutputPage(
+      program_, state_, [this] { return resultsFolder(); },
+      [this](std::size_t number) { return checkIn(number); }, tabs_);
+  tabs_->addTab(textOutput_, text(1800));
+  return tabs_;
+}
+
 void frmProject::wireSignals() {
   connect(txtProjectTitle_, &QLineEdit::textEdited, this, &frmProject::titleEdited);
   connect(hypInput_, &QListWidget::currentRowChanged, inputPages_, &InputPages::showPage);
@@ -107,7 +141,17 @@ void frmProject::wireSignals() {
   connect(scenarioBar_, &ScenarioBar::scenarioListChanged, this, [this] {
     state_.MarkChanged();
     refreshCaption();
+    resultsChanged();
   });
+  connect(inputPages_, &InputPages::scenarioNamesChanged, this, &frmProject::resultsChanged);
+  connect(inputPages_, &InputPages::scenarioShown, textOutput_, &TextOutputPage::showScenario);
+  connect(settingsPage_, &ProjectSettingsPage::changed, this, [this] {
+    state_.MarkChanged();
+    refreshCaption();
+  });
+  connect(settingsPage_, &ProjectSettingsPage::addUser, this, &frmProject::addUserName);
+  connect(settingsPage_, &ProjectSettingsPage::editUser, this, &frmProject::editUserName);
+  connect(settingsPage_, &ProjectSettingsPage::removeUser, this, &frmProject::removeUserName);
   // Undo may show another page than the one chosen.
   connect(inputPages_, &InputPages::pageShown, hypInput_, [this](int page) {
     const QSignalBlocker quiet(hypInput_);
@@ -158,6 +202,7 @@ bool frmProject::afterSave(tamsic::SaveResult result) {
   txtProjectTitle_->setText(FromFile(state_.document.title));
   refreshCaption();
   if (result != tamsic::SaveResult::Saved) return false;
+  settingsPage_->refresh();
   emit saved(QString::fromStdString(state_.FullPath()), FromFile(state_.document.title));
   return true;
 }
@@ -178,6 +223,7 @@ void frmProject::addUserName() {
   if (!ok || name.isEmpty()) return;
   state_.document.users.push_back(ToFile(name));
   state_.MarkChanged();
+  settingsPage_->refresh();
 }
 
 void frmProject::editUserName() {
@@ -191,6 +237,7 @@ void frmProject::editUserName() {
   if (!ok || name.isEmpty()) return;
   user = ToFile(name);
   state_.MarkChanged();
+  settingsPage_->refresh();
 }
 
 void frmProject::removeUserName() {
@@ -199,6 +246,7 @@ void frmProject::removeUserName() {
   auto& users = state_.document.users;
   users.erase(users.begin() + index);
   state_.MarkChanged();
+  settingsPage_->refresh();
 }
 
 int frmProject::chooseUserName() {
@@ -214,6 +262,23 @@ int frmProject::chooseUserName() {
   const QString chosen =
       QInputDialog::getItem(this, windowTitle(), text(1703), names, 0, false, &ok);
   return ok ? static_cast<int>(names.indexOf(chosen)) : -1;
+}
+
+std::filesystem::path frmProject::resultsFolder() const {
+  if (!state_.FullPath().empty()) return state_.WorkingFolder();
+  if (!state_.proposedFolder.empty()) return state_.proposedFolder;
+  return QDir::currentPath().toStdString();
+}
+
+std::optional<std::filesystem::path> frmProject::saveWorkFile(const tamsic::ProjectDocument& document) {
+  try {
+    const auto work = tamsic::CreateWorkFile(QCoreApplication::applicationDirPath().toStdString());
+    tamsic::SaveProject(document, work.string(), program_.messages);
+    return work;
+  } catch (const tamsic::TamsicError& error) {
+    program_.messages.show(error.what(), tamsic::msg::kError, tamsic::MsgIcon::Critical);
+    return std::nullopt;
+  }
 }
 
 // The engine reads the scenario from a saved copy of the project that holds
@@ -232,6 +297,82 @@ std::optional<std::string> frmProject::stableAgeDistribution(tamsic::clsScenario
     return error.what();
   }
 }
+
+// The engine writes the reports into the current directory.
+std::optional<std::string> frmProject::checkIn(std::size_t number) {
+  inputPages_->commitPending();
+  const auto work = saveWorkFile(state_.document);
+  if (!work) return std::nullopt;
+  QDir::setCurrent(QString::fromStdString(resultsFolder().string()));
+  try {
+    std::string reply = engine_.tcheckin(work->string() + "{" + std::to_string(number) + "}", 1);
+    if (reply.starts_with("Message")) {
+      std::error_code ignored;
+      std::filesystem::remove(*work, ignored);
+    }
+    return reply;
+  } catch (const std::exception& error) {
+    program_.messages.show(program_.messages.text(tamsic::msg::kUnableToRunSimulation) + "\n\n" + error.what(),
+                           tamsic::msg::kError, tamsic::MsgIcon::Critical);
+    return std::nullopt;
+  }
+}
+
+// The run dialog chooses; the project goes to the engine as a saved copy, and
+// the engine writes its files into the results folder, made the current
+// directory. The call runs on a thread of its own under a progress dialog
+// when the engine can report progress, else under the hourglass.
+void frmProject::runSimulation() {
+  inputPages_->commitPending();
+  const auto& scenarios = state_.document.scenarios;
+  QStringList names;
+  for (std::size_t n = 1; n <= scenarios.Count(); ++n) names << FromFile(scenarios.Item(n).Text(tamsic::F("txtSceneName")));
+  frmSimRun dialog(program_, names, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  freshAnalysis_ = true;
+  const auto work = saveWorkFile(state_.document);
+  if (!work) return;
+  QDir::setCurrent(QString::fromStdString(resultsFolder().string()));
+  const tamsic::basSimulation::RunRequest request{*work, dialog.runList().names,
+                                                  tamsic::Flags(state_.document.specialOptions),
+                                                  dialog.runMode().toStdString()};
+  std::optional<bool> watchable;
+  try {
+    watchable = engine_.progress().has_value();
+  } catch (const std::exception&) {
+    watchable = false;
+  }
+  std::optional<std::string> reply;
+  if (*watchable) {
+    std::vector<frmRunProgress::Scenario> chosen;
+    for (std::size_t entry : dialog.runList().checked) {
+      const auto& record = scenarios.Item(entry + 1);
+      chosen.push_back({FromFile(record.Text(tamsic::F("txtSceneName"))).trimmed(),
+                        std::atol(record.Text(tamsic::F("txtNumIter")).c_str())});
+    }
+    frmRunProgress progress(program_, engine_, request, std::move(chosen), this);
+    reply = tamsic::basSimulation::Conclude(program_.messages, request, progress.run());
+  } else {
+    WaitCursor cursor;
+    reply = tamsic::basSimulation::Run(engine_, cursor, program_.messages, request);
+  }
+  tellRunOutcome(reply);
+  resultsChanged();
+}
+
+// A reply other than "Message" is the engine's word on what went wrong.
+void frmProject::tellRunOutcome(const std::optional<std::string>& reply) {
+  if (!reply || reply->starts_with("Message")) return;
+  auto& messages = program_.messages;
+  if (reply->starts_with("Error: the run was cancelled"))
+    messages.show(messages.text(kRunCancelled) + "\n\n" + tamsic::Cp1252ToUtf8(*reply), tamsic::msg::kWarning,
+                  tamsic::MsgIcon::Information);
+  else
+    messages.show(messages.text(tamsic::msg::kUnableToRunSimulation) + "\n\n" + tamsic::Cp1252ToUtf8(*reply),
+                  tamsic::msg::kError, tamsic::MsgIcon::Critical);
+}
+
+void frmProject::resultsChanged() { textOutput_->resultsChanged(); }
 
 QString frmProject::text(int number) const {
   return QString::fromStdString(program_.strings.text(number));

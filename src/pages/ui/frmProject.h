@@ -4,6 +4,7 @@
 // its file state; saving and the question before closing run through the
 // core's save flow.
 #include <QWidget>
+#include <filesystem>
 #include <memory>
 
 #include "engine/Engine.h"
@@ -15,8 +16,11 @@ class InputPages;
 class QLineEdit;
 class QListWidget;
 class QStatusBar;
+class QTabWidget;
 class QUndoStack;
+class ProjectSettingsPage;
 class ScenarioBar;
+class TextOutputPage;
 
 class frmProject : public QWidget {
   Q_OBJECT
@@ -39,6 +43,14 @@ class frmProject : public QWidget {
   std::size_t currentScenario() const;
   void showScenario(std::size_t number);
 
+  // The run command: the run dialog, then the engine on the chosen scenarios.
+  void runSimulation();
+  // Set when a run is confirmed, so that result views built from earlier files are rebuilt.
+  bool freshAnalysis() const { return freshAnalysis_; }
+  // Where the engine writes and the result views read: the project's folder,
+  // or for a project never saved the folder proposed for it.
+  std::filesystem::path resultsFolder() const;
+
  signals:
   // The project now lives in this file under this title.
   void saved(const QString& path, const QString& title);
@@ -49,6 +61,7 @@ class frmProject : public QWidget {
  private:
   QWidget* buildHeader();
   QWidget* buildPageArea();
+  QWidget* buildTabs();
   void wireSignals();
   void refreshLinks();
   void refreshCaption();
@@ -58,6 +71,12 @@ class frmProject : public QWidget {
   int chooseUserName();
   QString text(int number) const;
   std::optional<std::string> stableAgeDistribution(tamsic::clsScenario& record, std::size_t number);
+  // The project as it stands saved to a fresh work file for the engine; nothing when that failed (the user was told).
+  std::optional<std::filesystem::path> saveWorkFile(const tamsic::ProjectDocument& document);
+  // tcheckin with flag 1: the engine writes the scenario's input and deterministic reports.
+  std::optional<std::string> checkIn(std::size_t number);
+  void tellRunOutcome(const std::optional<std::string>& reply);
+  void resultsChanged();
 
   Program& program_;
   tamsic::ProjectState state_;
@@ -69,4 +88,8 @@ class frmProject : public QWidget {
   QListWidget* hypInput_ = nullptr;
   InputPages* inputPages_ = nullptr;
   QStatusBar* stbProject_ = nullptr;
+  QTabWidget* tabs_ = nullptr;
+  ProjectSettingsPage* settingsPage_ = nullptr;
+  TextOutputPage* textOutput_ = nullptr;
+  bool freshAnalysis_ = false;
 };
