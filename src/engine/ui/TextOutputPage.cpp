@@ -96,12 +96,14 @@ QWidget* TextOutputPage::buildReportRow() {
   cboReport_->setObjectName("cboReport");
   cboReport_->setToolTip(text(1810));
   cboReport_->addItems({text(1801), text(1802), text(1803)});
+  // What a user most often wants after a run.
+  cboReport_->setCurrentIndex(2);
   auto* cmdShow = new QPushButton(text(1805), row);
   cmdShow->setObjectName("cmdShow");
   cboPopulation_ = new QComboBox(row);
   cboPopulation_->setObjectName("cboPopulation");
   cboPopulation_->setToolTip(text(1819));
-  cboPopulation_->setEnabled(false);
+  cboPopulation_->setVisible(false);
   txtFind_ = new QLineEdit(row);
   txtFind_->setObjectName("txtFind");
   txtFind_->setMaximumWidth(160);
@@ -120,6 +122,8 @@ QWidget* TextOutputPage::buildReportRow() {
   line->addWidget(cmdFind);
   line->addWidget(cmdSaveAs);
   connect(cmdShow, &QPushButton::clicked, this, &TextOutputPage::showReport);
+  connect(cboScenario_, &QComboBox::activated, this, &TextOutputPage::showReport);
+  connect(cboReport_, &QComboBox::activated, this, &TextOutputPage::showReport);
   connect(cboPopulation_, &QComboBox::activated, this, &TextOutputPage::goToPopulation);
   connect(cmdFind, &QPushButton::clicked, this, &TextOutputPage::find);
   connect(txtFind_, &QLineEdit::returnPressed, this, &TextOutputPage::find);
@@ -161,7 +165,7 @@ void TextOutputPage::resultsChanged() {
   cboScenario_->setCurrentIndex(std::min(shown, cboScenario_->count() - 1));
   txtReport_->clear();
   cboPopulation_->clear();
-  cboPopulation_->setEnabled(false);
+  cboPopulation_->setVisible(false);
   grdOtherOutput_->clear();
   grdOtherOutput_->setRowCount(0);
   grdOtherOutput_->setColumnCount(0);
@@ -190,7 +194,7 @@ void TextOutputPage::showReport() {
   const std::filesystem::path report = file(kind);
   txtReport_->clear();
   cboPopulation_->clear();
-  cboPopulation_->setEnabled(false);
+  cboPopulation_->setVisible(false);
   auto& messages = program_.messages;
   if (kind == ScenarioOutput::OutputReport) {
     const auto contents = ReadWhole(report);
@@ -230,7 +234,7 @@ void TextOutputPage::fillPopulations() {
   cboPopulation_->addItem(QStringLiteral("Metapopulation"));
   cboPopulation_->addItem(QStringLiteral("Within-population"));
   cboPopulation_->setCurrentIndex(0);
-  cboPopulation_->setEnabled(true);
+  cboPopulation_->setVisible(true);
 }
 
 // The report heads each block with its name; the chooser's entries are those names.

@@ -37,7 +37,8 @@ frmRunProgress::frmRunProgress(Program& program, tamsic::Engine& engine, tamsic:
   setObjectName("frmRunProgress");
   setWindowTitle(text(kTitle));
   setModal(true);
-  setWindowFlag(Qt::WindowCloseButtonHint, false);
+  // A title and nothing else: the run ends by itself or by Cancel.
+  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
   lblScenario_ = new QLabel(this);
   lblScenario_->setObjectName("lblScenario");
   prgRun_ = new QProgressBar(this);

@@ -17,6 +17,7 @@
 
 #include "app/Errors.h"
 #include "app/ui/Program.h"
+#include "engine/OutputFiles.h"
 #include "engine/SpecialOptionsFlags.h"
 #include "engine/WorkFile.h"
 #include "engine/basSimulation.h"
@@ -330,20 +331,30 @@ void frmProject::runSimulation() {
   frmSimRun dialog(program_, names, this);
   if (dialog.exec() != QDialog::Accepted) return;
   freshAnalysis_ = true;
+  // The summary keeps no line of an earlier run of a scenario run again; the
+  // engine adds the new line when the scenario is done.
+  try {
+    for (std::size_t entry : dialog.runList().checked)
+      tamsic::PruneSummary(resultsFolder(), state_.document.title,
+                           scenarios.Item(entry + 1).Text(tamsic::F("txtSceneName")));
+  } catch (const tamsic::FileError& error) {
+    program_.messages.show(error.what(), tamsic::msg::kError, tamsic::MsgIcon::Critical);
+    return;
+  }
   const auto work = saveWorkFile(state_.document);
   if (!work) return;
   QDir::setCurrent(QString::fromStdString(resultsFolder().string()));
   const tamsic::basSimulation::RunRequest request{*work, dialog.runList().names,
                                                   tamsic::Flags(state_.document.specialOptions),
                                                   dialog.runMode().toStdString()};
-  std::optional<bool> watchable;
+  bool watchable = false;
   try {
     watchable = engine_.progress().has_value();
   } catch (const std::exception&) {
-    watchable = false;
+    // Without the library the call below fails and says why.
   }
   std::optional<std::string> reply;
-  if (*watchable) {
+  if (watchable) {
     std::vector<frmRunProgress::Scenario> chosen;
     for (std::size_t entry : dialog.runList().checked) {
       const auto& record = scenarios.Item(entry + 1);
