@@ -18,7 +18,7 @@ constexpr char kBackQuote = '`';
 constexpr char kOldColon = static_cast<char>(252);
 constexpr char kOldSemicolon = static_cast<char>(253);
 
-std::string_view Trim(std::string_view text) {
+std::string_view TrimLine(std::string_view text) {
   const auto first = text.find_first_not_of(" \t\r\n");
   if (first == std::string_view::npos) return {};
   const auto last = text.find_last_not_of(" \t\r\n");
@@ -27,7 +27,7 @@ std::string_view Trim(std::string_view text) {
 
 std::string KeyOf(std::string_view line) {
   const auto equals = line.find('=');
-  return equals == std::string_view::npos ? std::string() : std::string(Trim(line.substr(0, equals)));
+  return equals == std::string_view::npos ? std::string() : std::string(TrimLine(line.substr(0, equals)));
 }
 
 std::string ValueOf(std::string_view line) {
@@ -40,7 +40,7 @@ std::string ValueOf(std::string_view line) {
 std::string SectionName(std::string_view header) {
   if (!header.empty() && header.front() == '[') header.remove_prefix(1);
   if (!header.empty() && header.back() == ']') header.remove_suffix(1);
-  return std::string(Trim(header));
+  return std::string(TrimLine(header));
 }
 
 std::string IndexKey(std::string_view section, std::string_view key) {
@@ -116,7 +116,7 @@ std::string_view clsSaveFile::ReadPhysicalLine() {
 std::string clsSaveFile::ReadLine() {
   while (!AtEndOfFile()) {
     lineStart_ = position_;
-    const std::string_view line = Trim(ReadPhysicalLine());
+    const std::string_view line = TrimLine(ReadPhysicalLine());
     if (!line.empty() && line.front() != '#') return std::string(line);
   }
   return {};
@@ -230,12 +230,12 @@ void clsSaveFile::SaveEntry(std::string_view key, std::string_view value, std::s
     return;
   }
   const std::string linear = LinearizeText(value);
-  const std::string_view trimmedKey = Trim(key);
+  const std::string_view trimmedKey = TrimLine(key);
   if (trimmedKey.empty()) return;
   std::string line(trimmedKey);
   line += '=';
-  line += formatted ? EncodeCell(ProcessOutput(linear)) : std::string(Trim(linear));
-  const std::string_view trimmedComment = Trim(comment);
+  line += formatted ? EncodeCell(ProcessOutput(linear)) : std::string(TrimLine(linear));
+  const std::string_view trimmedComment = TrimLine(comment);
   if (!trimmedComment.empty()) {
     if (line.size() < kCommentColumn) {
       line.resize(kCommentColumn, ' ');
@@ -305,13 +305,13 @@ std::string clsSaveFile::PutChars(std::string_view text, char c) {
 }
 
 std::string clsSaveFile::ProcessInput(std::string_view text) {
-  const std::string_view trimmed = Trim(text);
+  const std::string_view trimmed = TrimLine(text);
   if (trimmed == "Empty") return {};
   return StripChars(trimmed, '"', '"');
 }
 
 std::string clsSaveFile::ProcessOutput(std::string_view text) {
-  const std::string_view trimmed = Trim(text);
+  const std::string_view trimmed = TrimLine(text);
   if (trimmed.empty()) return "Empty";
   return PutChars(trimmed, '"');
 }
@@ -366,9 +366,9 @@ std::string clsSaveFile::ListboxToString(const std::vector<std::string>& items) 
 }
 
 std::vector<std::string> clsSaveFile::StringToListbox(std::string_view text) {
-  const std::string inner = StripChars(Trim(text), '{', '}');
+  const std::string inner = StripChars(TrimLine(text), '{', '}');
   std::vector<std::string> items;
-  if (Trim(inner).empty()) return items;
+  if (TrimLine(inner).empty()) return items;
   for (std::string_view piece : Split(inner, ',')) items.push_back(ProcessInput(piece));
   return items;
 }

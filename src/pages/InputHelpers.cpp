@@ -17,7 +17,7 @@ std::string Fixed2(double value) {
   return buffer;
 }
 
-std::string_view Trim(std::string_view text) {
+std::string_view TrimCell(std::string_view text) {
   const auto first = text.find_first_not_of(" \t\r");
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
@@ -53,7 +53,7 @@ bool FillDispersal(Grid& rates, std::string_view value) {
 bool ApplyDispersalMultiplier(Grid& rates, std::string_view multiplier) {
   const auto factor = ExactNumber(multiplier);
   if (!factor) return false;
-  const std::string typed(Trim(multiplier));
+  const std::string typed(TrimCell(multiplier));
   ForEachOffDiagonal(rates, [&](std::string& cell) {
     if (cell.empty()) return;
     const auto number = ExactNumber(cell);
@@ -76,18 +76,18 @@ std::string ExportRateMatrix(const Grid& rates) {
 
 std::optional<std::string> ImportRateMatrix(Grid& rates, std::string_view file) {
   std::vector<std::string_view> lines = Split(file, '\n');
-  while (!lines.empty() && Trim(lines.back()).empty()) lines.pop_back();
+  while (!lines.empty() && TrimCell(lines.back()).empty()) lines.pop_back();
   const std::size_t populations = rates.rows() > 0 ? rates.rows() - 1 : 0;
   if (lines.size() != populations)
     return "The rate matrix file has " + std::to_string(lines.size()) + " lines, but the matrix has " +
            std::to_string(populations) + " populations: one line per source population is needed.";
   Grid imported = rates;
   for (std::size_t r = 0; r < lines.size(); ++r) {
-    const auto fields = Split(Trim(lines[r]), ';');
+    const auto fields = Split(TrimCell(lines[r]), ';');
     if (fields.size() != populations)
       return "Line " + std::to_string(r + 1) + " of the rate matrix file has " + std::to_string(fields.size()) +
              " values, but the matrix has " + std::to_string(populations) + " populations.";
-    for (std::size_t c = 0; c < fields.size(); ++c) imported.at(r + 1, c + 1) = std::string(Trim(fields[c]));
+    for (std::size_t c = 0; c < fields.size(); ++c) imported.at(r + 1, c + 1) = std::string(TrimCell(fields[c]));
   }
   rates = std::move(imported);
   return std::nullopt;
