@@ -87,6 +87,15 @@ class ResultsPageTest : public QObject {
     QCOMPARE(band->lowerSeries()->at(1).y(), Cell(2, 1, 9) - Cell(2, 1, 11));
     QCOMPARE(chart->axes(Qt::Vertical).front()->titleText(), QString("N[extant](Mean)"));
 
+    // Saved as a drawing or as an image, by the name's ending.
+    QString picture = folder_.path() + "/graph.svg";
+    page.askSavePath = [&](const QString&, const QString&, const QString&) { return picture; };
+    child<QPushButton>(page, "cmdSaveGraph")->click();
+    QVERIFY(guitest::ReadFile(picture).contains("<svg"));
+    picture = folder_.path() + "/graph.png";
+    child<QPushButton>(page, "cmdSaveGraph")->click();
+    QVERIFY(guitest::ReadFile(picture).startsWith("\x89PNG"));
+
     // P[survive] has no SD: nothing to draw, and the status says why.
     choose(variables, "P[survive]");
     child<QComboBox>(page, "cboVarMod")->setCurrentIndex(2);

@@ -13,6 +13,18 @@
 
 namespace {
 
+// Whole years between ticks: 1, 2 or 5 times a power of ten, about ten ticks.
+double YearStep(double span) {
+  double step = 1;
+  while (span / step > 10) {
+    for (double factor : {2.0, 2.5, 2.0}) {
+      step *= factor;
+      if (span / step <= 10) break;
+    }
+  }
+  return step;
+}
+
 QLineSeries* LineOf(const std::vector<tamsic::GraphPoint>& points, QObject* parent) {
   auto* line = new QLineSeries(parent);
   for (const auto& point : points) line->append(point.x, point.y);
@@ -73,6 +85,9 @@ QChart* MakeResultsChart(const std::vector<ChartLine>& lines, const QString& xTi
       }
   if (yMin == yMax) yMax = yMin + 1;  // a flat line still needs a range
   xAxis->setRange(xMin, xMax);
+  xAxis->setTickType(QValueAxis::TicksDynamic);
+  xAxis->setTickAnchor(0);
+  xAxis->setTickInterval(YearStep(xMax - xMin));
   yAxis->setRange(yMin, yMax);
   yAxis->applyNiceNumbers();
   return chart;
