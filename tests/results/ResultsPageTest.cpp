@@ -133,12 +133,15 @@ class ResultsPageTest : public QObject {
                                                                  "You probably have not run 'Managed.'"),
              qPrintable(status));
 
-    // A file cut short is an error the user is shown.
+    // A file cut short is an error the user is shown once, though the graph
+    // on show is rebuilt too.
+    child<QPushButton>(page, "cmdMakeGraph")->click();
     resultstest::Write(datFile("Base"), resultstest::DatText("Base", 2, 2));
     test.box.expect("Error loading files.");
     page.resultsChanged();
     QVERIFY(test.box.allShown());
     QCOMPARE(grid->rowCount(), 0);
+    QVERIFY(child<QChartView>(page, "chtResults")->chart()->series().isEmpty());
   }
 
   void deterministicProjection() {

@@ -182,8 +182,8 @@ QWidget* ResultsPage::buildTableTab() {
 void ResultsPage::resultsChanged() {
   loaded_.clear();
   fillScenarios();
-  if (shown_ == Shown::Graph) makeGraph();
-  if (shown_ == Shown::Table) makeTable();
+  if (graphShown_) makeGraph();
+  if (tableShown_) makeTable();
 }
 
 // Keeps the checks of scenarios that are still there, by name.
@@ -248,7 +248,9 @@ tamsic::PopulationChoice ResultsPage::populationChoice() const {
 }
 
 const tamsic::YearlyData* ResultsPage::data(std::size_t number, QStringList& status) {
-  if (const auto found = loaded_.find(number); found != loaded_.end()) return &found->second;
+  // A broken file is remembered as nothing, so that the user is told once.
+  if (const auto found = loaded_.find(number); found != loaded_.end())
+    return found->second ? &*found->second : nullptr;
   const tamsic::clsScenario& scenario = state_.document.scenarios.Item(number);
   const auto file = tamsic::ScenarioOutputFile(state_.WorkingFolder(), state_.document.title,
                                                scenario.Text(F("txtSceneName")), tamsic::ScenarioOutput::YearlyData);
@@ -258,8 +260,9 @@ const tamsic::YearlyData* ResultsPage::data(std::size_t number, QStringList& sta
     return nullptr;
   }
   try {
-    return &loaded_.emplace(number, tamsic::LoadYearlyData(file, scenario)).first->second;
+    return &*loaded_.emplace(number, tamsic::LoadYearlyData(file, scenario)).first->second;
   } catch (const tamsic::FileError&) {
+    loaded_.emplace(number, std::nullopt);
     program_.messages.show(program_.messages.text(9131), tamsic::msg::kError, tamsic::MsgIcon::Critical);
     return nullptr;
   }
@@ -268,7 +271,7 @@ const tamsic::YearlyData* ResultsPage::data(std::size_t number, QStringList& sta
 void ResultsPage::showStatus(const QStringList& lines) { lblStatus_->setText(lines.join('\n')); }
 
 void ResultsPage::makeGraph() {
-  shown_ = Shown::Graph;
+  graphShown_ = true;
   QStringList status;
   if (checkedScenarios().empty()) status << Q(program_.strings.text(1943));
   const bool results = cboGraphKind_->currentIndex() == kSimulationResults;
@@ -323,7 +326,7 @@ std::vector<ChartLine> ResultsPage::deterministicLines() {
 }
 
 void ResultsPage::makeTable() {
-  shown_ = Shown::Table;
+  tableShown_ = true;
   QStringList status;
   if (checkedScenarios().empty()) status << Q(program_.strings.text(1943));
   std::vector<tamsic::TableScenario> sources;
@@ -362,7 +365,7 @@ void ResultsPage::specifyColumns() {
   frmSpecify dialog(program_.strings, tamsic::BaseVariables(userVariables), tableVariables_, this);
   if (dialog.exec() != QDialog::Accepted) return;
   tableVariables_ = dialog.chosen();
-  if (shown_ == Shown::Table) makeTable();
+  if (tableShown_) makeTable();
 }
 
 void ResultsPage::saveGraph() {
@@ -377,6 +380,7 @@ void ResultsPage::saveGraph() {
 }
 
 void ResultsPage::exportTable() {
+  if (!tableShown_) makeTable();
   const QString title = Q(tamsic::Cp1252ToUtf8(tamsic::Trim(state_.document.title)));
   const QString proposed = QDir(Q(state_.WorkingFolder())).filePath(title + "_table.csv");
   const QString path = askSavePath(Q(program_.strings.text(1911)), proposed, "CSV files (*.csv)");
@@ -390,4 +394,8 @@ void ResultsPage::exportTable() {
                            tamsic::MsgIcon::Critical);
 }
 
-void ResultsPage::copyTable() { QApplication::clipboard()->setText(Q(tamsic::ToTabText(table_))); }
+// Both exports give what the choices make when no table is on show yet.
+void ResultsPage::copyTable() {
+  if (!tableShown_) makeTable();
+  QApplication::clipboard()->setText(Q(tamsic::ToTabText(table_)));
+}

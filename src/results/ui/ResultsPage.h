@@ -42,8 +42,6 @@ class ResultsPage : public QWidget {
   std::function<QString(const QString& caption, const QString& proposed, const QString& filter)> askSavePath;
 
  private:
-  enum class Shown { Nothing, Graph, Table };
-
   QWidget* buildGraphTab();
   QWidget* buildTableTab();
   void fillScenarios();
@@ -51,7 +49,8 @@ class ResultsPage : public QWidget {
   void refreshModifier();
   std::vector<std::size_t> checkedScenarios() const;
   // The scenario's data, loaded on first use; nothing when its file is
-  // missing (a status line says so) or broken (message 9131).
+  // missing (a status line says so) or broken (message 9131, once until
+  // resultsChanged).
   const tamsic::YearlyData* data(std::size_t number, QStringList& status);
   QString scenarioName(std::size_t number) const;
   tamsic::PopulationChoice populationChoice() const;
@@ -69,11 +68,13 @@ class ResultsPage : public QWidget {
   Program& program_;
   const tamsic::ProjectState& state_;
   std::function<std::optional<std::string>(std::size_t)> deterministicValues_;
-  std::map<std::size_t, tamsic::YearlyData> loaded_;
+  std::map<std::size_t, std::optional<tamsic::YearlyData>> loaded_;
   std::vector<tamsic::PopulationEntry> populationEntries_;
   std::vector<std::string> tableVariables_;
   tamsic::Table table_;
-  Shown shown_ = Shown::Nothing;
+  // What resultsChanged() rebuilds.
+  bool graphShown_ = false;
+  bool tableShown_ = false;
 
   QListWidget* lstScenarios_ = nullptr;
   QComboBox* cboPops_ = nullptr;
