@@ -1,5 +1,6 @@
 #include "results/ResultVariables.h"
 
+#include <algorithm>
 #include <array>
 
 #include "model/TextSplit.h"
