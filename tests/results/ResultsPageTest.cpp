@@ -2,6 +2,8 @@
 // hand-written yearly data files, their exports, and what the user is told
 // when a file is missing or broken.
 #include <QAreaSeries>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QChart>
 #include <QChartView>
 #include <QComboBox>
@@ -123,6 +125,10 @@ class ResultsPageTest : public QObject {
              QByteArray("Scenario,P[extinct],Stoch.r,SD(Stoch.r),N[extant],SD(N[extant]),GeneDiv,SD(GeneDiv)\r\n"
                         "Base,-2200.25,2206.25,2208.25,2209.25,2211.25,2215.25,2217.25\r\n"
                         "Managed,-200.25,206.25,208.25,209.25,211.25,215.25,217.25\r\n"));
+
+    child<QPushButton>(page, "cmdCopy")->click();
+    QVERIFY(QGuiApplication::clipboard()->text().startsWith("Scenario\tP[extinct]\tStoch.r\tSD(Stoch.r)\t"));
+    QVERIFY(QGuiApplication::clipboard()->text().endsWith("\nManaged\t-200.25\t206.25\t208.25\t209.25\t211.25\t215.25\t217.25\n"));
 
     // A run that left no file for Managed: the rebuilt table says so.
     std::filesystem::remove(datFile("Managed"));

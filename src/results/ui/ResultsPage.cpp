@@ -348,11 +348,16 @@ void ResultsPage::makeTable() {
   QStringList headings{Q(table_.corner)};
   for (const std::string& column : table_.columns) headings << Q(column);
   grdTable_->setHorizontalHeaderLabels(headings);
+  // Numbers line up on the right, after the scenario, population and year columns.
+  const std::size_t keys = table_.columns.size() - tamsic::ValueColumns(choice.variables, choice.statistic).size();
   for (int r = 0; r < grdTable_->rowCount(); ++r) {
     const tamsic::TableRow& row = table_.rows[r];
     grdTable_->setItem(r, 0, new QTableWidgetItem(Q(row.heading)));
-    for (std::size_t c = 0; c < row.cells.size(); ++c)
-      grdTable_->setItem(r, static_cast<int>(c) + 1, new QTableWidgetItem(Q(row.cells[c])));
+    for (std::size_t c = 0; c < row.cells.size(); ++c) {
+      auto* item = new QTableWidgetItem(Q(row.cells[c]));
+      if (c >= keys) item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      grdTable_->setItem(r, static_cast<int>(c) + 1, item);
+    }
   }
   grdTable_->resizeColumnsToContents();
   showStatus(status);
