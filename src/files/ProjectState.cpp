@@ -18,6 +18,12 @@ std::string ProjectState::FileStem() const {
   return std::filesystem::path(fullPath_).stem().string();
 }
 
+std::string ResultsFolder(const ProjectState& state) {
+  if (!state.FullPath().empty()) return state.WorkingFolder();
+  if (!state.proposedFolder.empty()) return state.proposedFolder;
+  return std::filesystem::current_path().string();
+}
+
 std::string TrimmedTitle(const ProjectDocument& document) {
   const std::string title = Cp1252ToUtf8(document.title);
   const auto first = title.find_first_not_of(" \t");

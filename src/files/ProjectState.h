@@ -32,6 +32,11 @@ class ProjectState {
   bool changed_ = false;
 };
 
+// Where the engine writes a project's result files and the result views read
+// them: the project's folder, or for a project never saved the folder
+// proposed for it, else the current directory.
+std::string ResultsFolder(const ProjectState& state);
+
 // The title without blanks at either end, in UTF-8 (file titles are Windows-1252).
 std::string TrimmedTitle(const ProjectDocument& document);
 

@@ -4,7 +4,6 @@
 
 #include "engine/OutputFiles.h"
 #include "engine/RunList.h"
-#include "engine/TableExport.h"
 #include "support/TestFolder.h"
 
 namespace tamsic {
@@ -64,12 +63,6 @@ TEST(OutputFiles, TableFilesSkipHeadingsAndBlankLinesAndWidenToTheLongestRecord)
   EXPECT_EQ(table.rows[1].back(), "extra");
   EXPECT_EQ(table.rows[2], (std::vector<std::string>{"3"}));
   EXPECT_THROW(ReadTableFile(folder.path() / "missing.run"), std::exception);
-}
-
-TEST(TableExport, CsvQuotesOnlyWhatNeedsItAndTabTextKeepsCells) {
-  const TableRows rows = {{"Scenario", "N[all]"}, {"Base, dry", "12.5"}, {"Say \"hi\"", ""}};
-  EXPECT_EQ(ToCsv(rows), "Scenario,N[all]\r\n\"Base, dry\",12.5\r\n\"Say \"\"hi\"\"\",\r\n");
-  EXPECT_EQ(ToTabText(rows), "Scenario\tN[all]\nBase, dry\t12.5\nSay \"hi\"\t\n");
 }
 
 }  // namespace

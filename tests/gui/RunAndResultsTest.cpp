@@ -3,6 +3,8 @@
 // views that read them.
 #include <QAction>
 #include <QApplication>
+#include <QChartView>
+#include <QLineSeries>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -22,6 +24,7 @@
 #include "engine/ui/frmSimRun.h"
 #include "files/ProjectFile.h"
 #include "pages/ui/frmProject.h"
+#include "results/ui/ResultsPage.h"
 #include "support/RecordingMessageBox.h"
 
 using namespace guitest;
@@ -61,6 +64,13 @@ QString SmallCopy(const QTemporaryDir& folder, const char* example, int iteratio
   const QString path = folder.filePath(example);
   tamsic::SaveProject(project, path.toStdString(), quiet.messages);
   return path;
+}
+
+// The fields of the .dat line of a block and year, the blocks following one another after the scenario's name line.
+QStringList DatFields(const QString& file, const QString& scenario, int block, int years, int year) {
+  const QStringList lines = QString::fromLatin1(ReadFile(file)).split("\r\n");
+  const int name = static_cast<int>(lines.indexOf(scenario));
+  return lines.value(name + 1 + block * (years + 1) + year).split(';');
 }
 
 std::string SummaryLineOf(const std::string& summary, const std::string& scenario) {
@@ -109,6 +119,33 @@ class RunAndResultsTest : public QObject {
     QCOMPARE(ReadFile(folder.filePath("Koalas.tpj")), before);
     QVERIFY(!project->state().Changed());
     QVERIFY(QDir(QCoreApplication::applicationDirPath() + "/Temp").isEmpty());
+
+    // The graph of N[all] for both scenarios, metapopulation, draws the .dat's numbers.
+    auto* graphs = project->findChild<ResultsPage*>();
+    auto* list = graphs->findChild<QListWidget*>("lstScenarios");
+    list->item(0)->setCheckState(Qt::Checked);
+    list->item(1)->setCheckState(Qt::Checked);
+    auto* populations = graphs->findChild<QComboBox*>("cboPops");
+    populations->setCurrentIndex(populations->findText("Metapopulation"));
+    auto* variables = graphs->findChild<QComboBox*>("cboVars");
+    variables->setCurrentIndex(variables->findText("N[all]"));
+    graphs->findChild<QComboBox*>("cboBand")->setCurrentIndex(2);
+    graphs->findChild<QPushButton*>("cmdMakeGraph")->click();
+    QChart* chart = graphs->findChild<QChartView*>("chtResults")->chart();
+    for (const QString scenario : {"Baseline", "Managed"}) {
+      QLineSeries* line = nullptr;
+      for (auto* series : chart->series())
+        if (auto* found = qobject_cast<QLineSeries*>(series); found && found->name() == scenario) line = found;
+      QVERIFY(line);
+      QCOMPARE(line->count(), 31);
+      const QString dat = QString::fromStdString(
+          tamsic::ScenarioOutputFile(results, title, scenario.toStdString(), tamsic::ScenarioOutput::YearlyData).string());
+      for (int year : {0, 17, 30}) {
+        const QStringList fields = DatFields(dat, scenario, 3, 30, year);
+        QCOMPARE(fields.value(0).toInt(), year);
+        QCOMPARE(line->at(year), QPointF(year, fields.value(12).toDouble()));
+      }
+    }
 
     // The summary grid holds the engine's line field for field, and exports it as CSV.
     auto* output = project->findChild<TextOutputPage*>();

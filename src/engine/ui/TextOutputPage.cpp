@@ -21,7 +21,7 @@
 #include "app/Errors.h"
 #include "app/ui/Program.h"
 #include "engine/OutputFiles.h"
-#include "engine/TableExport.h"
+#include "results/TableExport.h"
 #include "files/AtomicFile.h"
 #include "files/TextCodec.h"
 
@@ -47,13 +47,8 @@ std::optional<std::string> ReadWhole(const std::filesystem::path& file) {
 }  // namespace
 
 TextOutputPage::TextOutputPage(Program& program, const tamsic::ProjectState& state,
-                               std::function<std::filesystem::path()> resultsFolder,
                                std::function<std::optional<std::string>(std::size_t)> checkIn, QWidget* parent)
-    : QWidget(parent),
-      program_(program),
-      state_(state),
-      resultsFolder_(std::move(resultsFolder)),
-      checkIn_(std::move(checkIn)) {
+    : QWidget(parent), program_(program), state_(state), checkIn_(std::move(checkIn)) {
   setObjectName("TextOutputPage");
   txtReport_ = new QPlainTextEdit(this);
   txtReport_->setObjectName("txtReport");
@@ -151,7 +146,7 @@ QWidget* TextOutputPage::buildOtherOutputRow() {
   connect(cboOtherOutput_, &QComboBox::activated, this, &TextOutputPage::showOtherOutput);
   connect(cmdExport, &QPushButton::clicked, this, &TextOutputPage::exportOtherOutput);
   connect(cmdCopy, &QPushButton::clicked, this, [this] {
-    QApplication::clipboard()->setText(otherOutputCsv().replace(',', '\t').remove('\r'));
+    QApplication::clipboard()->setText(FromFile(tamsic::ToTabText(otherOutputRows())));
   });
   return row;
 }
@@ -183,8 +178,10 @@ std::string TextOutputPage::scenarioName() const {
   return state_.document.scenarios.Item(number).Text(tamsic::F("txtSceneName"));
 }
 
+std::filesystem::path TextOutputPage::folder() const { return tamsic::ResultsFolder(state_); }
+
 std::filesystem::path TextOutputPage::file(tamsic::ScenarioOutput kind) const {
-  return tamsic::ScenarioOutputFile(resultsFolder_(), state_.document.title, scenarioName(), kind);
+  return tamsic::ScenarioOutputFile(folder(), state_.document.title, scenarioName(), kind);
 }
 
 void TextOutputPage::showReport() {
@@ -259,7 +256,7 @@ void TextOutputPage::find() {
 
 void TextOutputPage::saveReportAs() {
   if (txtReport_->document()->isEmpty()) return;
-  const QString path = QFileDialog::getSaveFileName(this, text(1807), QString::fromStdString(resultsFolder_().string()),
+  const QString path = QFileDialog::getSaveFileName(this, text(1807), QString::fromStdString(folder().string()),
                                                     QStringLiteral("Text (*.txt)"));
   if (path.isEmpty()) return;
   try {
@@ -277,7 +274,7 @@ void TextOutputPage::showOtherOutput() {
   if (choice <= 0) return;
   const std::filesystem::path table = choice == kOtherOutputRunTable
                                           ? file(ScenarioOutput::RunTable)
-                                          : tamsic::SummaryFile(resultsFolder_(), state_.document.title);
+                                          : tamsic::SummaryFile(folder(), state_.document.title);
   auto& messages = program_.messages;
   if (!std::filesystem::exists(table)) {
     messages.show(messages.text(9112) + tamsic::Cp1252ToUtf8(table.string()) + messages.text(9113) +
@@ -299,26 +296,28 @@ void TextOutputPage::showOtherOutput() {
   }
 }
 
-QString TextOutputPage::otherOutputCsv() const {
+QString TextOutputPage::otherOutputCsv() const { return FromFile(tamsic::ToCsv(otherOutputRows())); }
+
+tamsic::TableRows TextOutputPage::otherOutputRows() const {
   tamsic::TableRows rows(1);
   for (int c = 0; c < grdOtherOutput_->columnCount(); ++c) rows.front().push_back(std::to_string(c + 1));
   for (int r = 0; r < grdOtherOutput_->rowCount(); ++r) {
     auto& row = rows.emplace_back();
     for (int c = 0; c < grdOtherOutput_->columnCount(); ++c) {
       const QTableWidgetItem* item = grdOtherOutput_->item(r, c);
-      row.push_back(item ? item->text().toStdString() : std::string());
+      row.push_back(item ? tamsic::Utf8ToCp1252(item->text().toStdString()) : std::string());
     }
   }
-  return QString::fromStdString(tamsic::ToCsv(rows));
+  return rows;
 }
 
 void TextOutputPage::exportOtherOutput() {
   if (grdOtherOutput_->rowCount() == 0) return;
-  const QString path = QFileDialog::getSaveFileName(this, text(1815), QString::fromStdString(resultsFolder_().string()),
+  const QString path = QFileDialog::getSaveFileName(this, text(1815), QString::fromStdString(folder().string()),
                                                     QStringLiteral("CSV (*.csv)"));
   if (path.isEmpty()) return;
   try {
-    tamsic::WriteFileReplacing(path.toStdString(), otherOutputCsv().toStdString());
+    tamsic::WriteFileReplacing(path.toStdString(), tamsic::ToCsv(otherOutputRows()));
   } catch (const tamsic::FileError& error) {
     program_.messages.show(error.what(), tamsic::msg::kError, tamsic::MsgIcon::Critical);
   }

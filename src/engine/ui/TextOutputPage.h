@@ -12,6 +12,7 @@
 
 #include "engine/OutputFiles.h"
 #include "files/ProjectState.h"
+#include "results/TableExport.h"
 
 struct Program;
 class QComboBox;
@@ -26,7 +27,6 @@ class TextOutputPage : public QWidget {
   // deterministic reports into the results folder and answers its reply, or
   // nothing when the call failed (the user was told).
   TextOutputPage(Program& program, const tamsic::ProjectState& state,
-                 std::function<std::filesystem::path()> resultsFolder,
                  std::function<std::optional<std::string>(std::size_t)> checkIn, QWidget* parent = nullptr);
 
   // Result files were replaced, or scenarios added, renamed or removed.
@@ -48,13 +48,15 @@ class TextOutputPage : public QWidget {
   void saveReportAs();
   void showOtherOutput();
   void exportOtherOutput();
+  // Texts in the project file's encoding, as the result files hold them.
+  tamsic::TableRows otherOutputRows() const;
   std::string scenarioName() const;
   std::filesystem::path file(tamsic::ScenarioOutput kind) const;
+  std::filesystem::path folder() const;
   QString text(int number) const;
 
   Program& program_;
   const tamsic::ProjectState& state_;
-  std::function<std::filesystem::path()> resultsFolder_;
   std::function<std::optional<std::string>(std::size_t)> checkIn_;
   QComboBox* cboScenario_ = nullptr;
   QComboBox* cboReport_ = nullptr;

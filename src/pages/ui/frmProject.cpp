@@ -30,6 +30,7 @@
 #include "pages/ui/InputPages.h"
 #include "pages/ui/ProjectSettingsPage.h"
 #include "pages/ui/ScenarioBar.h"
+#include "results/ui/ResultsPage.h"
 
 namespace {
 
@@ -121,9 +122,11 @@ QWidget* frmProject::buildTabs() {
   settingsPage_ = new ProjectSettingsPage(program_, state_, tabs_);
   tabs_->addTab(settingsPage_, text(1700));
   textOutput_ = new TextOutputPage(
-      program_, state_, [this] { return resultsFolder(); },
-      [this](std::size_t number) { return checkIn(number); }, tabs_);
+      program_, state_, [this](std::size_t number) { return checkIn(number); }, tabs_);
   tabs_->addTab(textOutput_, text(1800));
+  results_ = new ResultsPage(
+      program_, state_, [this](std::size_t number) { return deterministicValues(number); }, tabs_);
+  tabs_->addTab(results_, text(1900));
   return tabs_;
 }
 
@@ -265,12 +268,6 @@ int frmProject::chooseUserName() {
   return ok ? static_cast<int>(names.indexOf(chosen)) : -1;
 }
 
-std::filesystem::path frmProject::resultsFolder() const {
-  if (!state_.FullPath().empty()) return state_.WorkingFolder();
-  if (!state_.proposedFolder.empty()) return state_.proposedFolder;
-  return QDir::currentPath().toStdString();
-}
-
 std::optional<std::filesystem::path> frmProject::saveWorkFile(const tamsic::ProjectDocument& document) {
   try {
     const auto work = tamsic::CreateWorkFile(QCoreApplication::applicationDirPath().toStdString());
@@ -304,7 +301,7 @@ std::optional<std::string> frmProject::checkIn(std::size_t number) {
   inputPages_->commitPending();
   const auto work = saveWorkFile(state_.document);
   if (!work) return std::nullopt;
-  QDir::setCurrent(QString::fromStdString(resultsFolder().string()));
+  QDir::setCurrent(QString::fromStdString(tamsic::ResultsFolder(state_)));
   try {
     std::string reply = engine_.tcheckin(work->string() + "{" + std::to_string(number) + "}", 1);
     if (reply.starts_with("Message")) {
@@ -317,6 +314,23 @@ std::optional<std::string> frmProject::checkIn(std::size_t number) {
                            tamsic::msg::kError, tamsic::MsgIcon::Critical);
     return std::nullopt;
   }
+}
+
+// detGraphValues loads the scenario named by a check-in text before it projects.
+std::optional<std::string> frmProject::deterministicValues(std::size_t number) {
+  inputPages_->commitPending();
+  const auto work = saveWorkFile(state_.document);
+  if (!work) return std::nullopt;
+  std::optional<std::string> reply;
+  try {
+    reply = engine_.detGraphValues(work->string() + "{" + std::to_string(number) + "}", 0);
+  } catch (const std::exception& error) {
+    program_.messages.show(program_.messages.text(tamsic::msg::kUnableToRunSimulation) + "\n\n" + error.what(),
+                           tamsic::msg::kError, tamsic::MsgIcon::Critical);
+  }
+  std::error_code ignored;
+  std::filesystem::remove(*work, ignored);
+  return reply;
 }
 
 // The run dialog chooses; the project goes to the engine as a saved copy, and
@@ -335,7 +349,7 @@ void frmProject::runSimulation() {
   // engine adds the new line when the scenario is done.
   try {
     for (std::size_t entry : dialog.runList().checked)
-      tamsic::PruneSummary(resultsFolder(), state_.document.title,
+      tamsic::PruneSummary(tamsic::ResultsFolder(state_), state_.document.title,
                            scenarios.Item(entry + 1).Text(tamsic::F("txtSceneName")));
   } catch (const tamsic::FileError& error) {
     program_.messages.show(error.what(), tamsic::msg::kError, tamsic::MsgIcon::Critical);
@@ -343,7 +357,7 @@ void frmProject::runSimulation() {
   }
   const auto work = saveWorkFile(state_.document);
   if (!work) return;
-  QDir::setCurrent(QString::fromStdString(resultsFolder().string()));
+  QDir::setCurrent(QString::fromStdString(tamsic::ResultsFolder(state_)));
   const tamsic::basSimulation::RunRequest request{*work, dialog.runList().names,
                                                   tamsic::Flags(state_.document.specialOptions),
                                                   dialog.runMode().toStdString()};
@@ -383,7 +397,10 @@ void frmProject::tellRunOutcome(const std::optional<std::string>& reply) {
                   tamsic::msg::kError, tamsic::MsgIcon::Critical);
 }
 
-void frmProject::resultsChanged() { textOutput_->resultsChanged(); }
+void frmProject::resultsChanged() {
+  textOutput_->resultsChanged();
+  results_->resultsChanged();
+}
 
 QString frmProject::text(int number) const {
   return QString::fromStdString(program_.strings.text(number));

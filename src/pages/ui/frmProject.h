@@ -19,6 +19,7 @@ class QStatusBar;
 class QTabWidget;
 class QUndoStack;
 class ProjectSettingsPage;
+class ResultsPage;
 class ScenarioBar;
 class TextOutputPage;
 
@@ -47,9 +48,6 @@ class frmProject : public QWidget {
   void runSimulation();
   // Set when a run is confirmed, so that result views built from earlier files are rebuilt.
   bool freshAnalysis() const { return freshAnalysis_; }
-  // Where the engine writes and the result views read: the project's folder,
-  // or for a project never saved the folder proposed for it.
-  std::filesystem::path resultsFolder() const;
 
  signals:
   // The project now lives in this file under this title.
@@ -75,6 +73,8 @@ class frmProject : public QWidget {
   std::optional<std::filesystem::path> saveWorkFile(const tamsic::ProjectDocument& document);
   // tcheckin with flag 1: the engine writes the scenario's input and deterministic reports.
   std::optional<std::string> checkIn(std::size_t number);
+  // The engine's deterministic projection of N for the scenario, from a saved copy.
+  std::optional<std::string> deterministicValues(std::size_t number);
   void tellRunOutcome(const std::optional<std::string>& reply);
   void resultsChanged();
 
@@ -91,5 +91,6 @@ class frmProject : public QWidget {
   QTabWidget* tabs_ = nullptr;
   ProjectSettingsPage* settingsPage_ = nullptr;
   TextOutputPage* textOutput_ = nullptr;
+  ResultsPage* results_ = nullptr;
   bool freshAnalysis_ = false;
 };
