@@ -114,6 +114,13 @@ ProjectDocument Koalas() {
   managed.column(F("gridSuppl"), 3, {"1", "10", "30", "10", ""});
   managed.row(F("gridSupplF"), 3, {"0", "4"}).row(F("gridSupplM"), 3, {"0", "0", "2"});
 
+  // The corridors lost: no koala moves between the fragments.
+  ExampleScenario isolated = baseline;
+  isolated.text(F("txtSceneName"), "Isolated");
+  isolated.row(F("gridDispRates"), 1, {"", "0", "0"});
+  isolated.row(F("gridDispRates"), 2, {"0", "", "0"});
+  isolated.row(F("gridDispRates"), 3, {"0", "0", ""});
+
   ProjectDocument project;
   project.title = "Koalas in three fragments";
   project.notes = "Example: a koala metapopulation in three forest fragments linked by dispersal, "
@@ -121,6 +128,7 @@ ProjectDocument Koalas() {
   project.users = {"Tamsic examples"};
   project.scenarios.Add(baseline.scenario());
   project.scenarios.Add(managed.scenario());
+  project.scenarios.Add(isolated.scenario());
   project.stScheme.NumItems = 3;
   project.stScheme.Items = {
       {1, 0, "Breeding -10%", {"PercentBreed_Pop1", "PercentBreed_Pop2", "PercentBreed_Pop3"}, {"=B*0.9", "=B*0.9", "=B*0.9"}},
