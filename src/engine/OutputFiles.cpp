@@ -1,6 +1,7 @@
 #include "engine/OutputFiles.h"
 
 #include <fstream>
+#include <utility>
 
 #include "app/Errors.h"
 #include "model/TextSplit.h"
@@ -64,8 +65,11 @@ TableFile ReadTableFile(const std::filesystem::path& file) {
   std::ifstream in(file, std::ios::binary);
   if (!in) throw FileError("Cannot read " + file.string());
   TableFile table;
+  bool named = false;
   for (std::string line; std::getline(in, line);) {
     const std::string text = Lined(line);
+    if (text.starts_with('$') && !std::exchange(named, true))
+      for (std::string_view field : Split(std::string_view(text).substr(1), ';')) table.headings.emplace_back(Trim(field));
     if (text.starts_with('$') || Trim(text).empty()) continue;
     std::vector<std::string> fields;
     for (std::string_view field : Split(text, ';')) fields.emplace_back(Trim(field));

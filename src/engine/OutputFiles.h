@@ -26,8 +26,9 @@ void PruneSummary(const std::filesystem::path& folder, const std::string& projec
 
 // A ".sum" or ".run" file cut into records: "$" lines and blank lines are
 // skipped, the rest split at ";" with each field trimmed. `columns` is the
-// widest record's field count.
+// widest record's field count. The first "$" line names the columns.
 struct TableFile {
+  std::vector<std::string> headings;
   std::vector<std::vector<std::string>> rows;
   std::size_t columns = 0;
 };

@@ -57,6 +57,7 @@ TEST(OutputFiles, TableFilesSkipHeadingsAndBlankLinesAndWidenToTheLongestRecord)
   const auto file = folder.path() / "P_S.run";
   std::ofstream(file, std::ios::binary) << "$Iteration;Population\r\n1; 1 ;0\r\n$ a comment\r\n   \r\n2;1;0;55;extra\r\n3\r\n";
   const TableFile table = ReadTableFile(file);
+  EXPECT_EQ(table.headings, (std::vector<std::string>{"Iteration", "Population"}));
   EXPECT_EQ(table.columns, 5u);
   ASSERT_EQ(table.rows.size(), 3u);
   EXPECT_EQ(table.rows[0], (std::vector<std::string>{"1", "1", "0"}));

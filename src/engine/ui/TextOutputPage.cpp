@@ -284,7 +284,9 @@ void TextOutputPage::showOtherOutput() {
   }
   try {
     const tamsic::TableFile records = tamsic::ReadTableFile(table);
-    grdOtherOutput_->setColumnCount(static_cast<int>(records.columns));
+    grdOtherOutput_->setColumnCount(static_cast<int>(std::max(records.columns, records.headings.size())));
+    for (std::size_t c = 0; c < records.headings.size(); ++c)
+      grdOtherOutput_->setHorizontalHeaderItem(static_cast<int>(c), new QTableWidgetItem(FromFile(records.headings[c])));
     grdOtherOutput_->setRowCount(static_cast<int>(records.rows.size()));
     for (std::size_t r = 0; r < records.rows.size(); ++r)
       for (std::size_t c = 0; c < records.rows[r].size(); ++c)
@@ -300,7 +302,10 @@ QString TextOutputPage::otherOutputCsv() const { return FromFile(tamsic::ToCsv(o
 
 tamsic::TableRows TextOutputPage::otherOutputRows() const {
   tamsic::TableRows rows(1);
-  for (int c = 0; c < grdOtherOutput_->columnCount(); ++c) rows.front().push_back(std::to_string(c + 1));
+  for (int c = 0; c < grdOtherOutput_->columnCount(); ++c) {
+    const QTableWidgetItem* heading = grdOtherOutput_->horizontalHeaderItem(c);
+    rows.front().push_back(heading ? tamsic::Utf8ToCp1252(heading->text().toStdString()) : std::to_string(c + 1));
+  }
   for (int r = 0; r < grdOtherOutput_->rowCount(); ++r) {
     auto& row = rows.emplace_back();
     for (int c = 0; c < grdOtherOutput_->columnCount(); ++c) {

@@ -34,7 +34,8 @@ class TextOutputPage : public QWidget {
   // The scenario whose reports are offered, counted from 1.
   void showScenario(std::size_t number);
 
-  // The grid of the other output as CSV: a header row of column numbers, then the records.
+  // The grid of the other output as CSV: a header row (the file's column
+  // names, or numbers where it names none), then the records.
   QString otherOutputCsv() const;
 
  private:
