@@ -137,6 +137,7 @@ class RunAndResultsTest : public QObject {
       for (auto* series : chart->series())
         if (auto* found = qobject_cast<QLineSeries*>(series); found && found->name() == scenario) line = found;
       QVERIFY(line);
+      QVERIFY(!line->pointsVisible());  // the special option "S" is off in the example
       QCOMPARE(line->count(), 31);
       const QString dat = QString::fromStdString(
           tamsic::ScenarioOutputFile(results, title, scenario.toStdString(), tamsic::ScenarioOutput::YearlyData).string());

@@ -33,7 +33,8 @@ QLineSeries* LineOf(const std::vector<tamsic::GraphPoint>& points, QObject* pare
 
 }  // namespace
 
-QChart* MakeResultsChart(const std::vector<ChartLine>& lines, const QString& xTitle, const QString& yTitle) {
+QChart* MakeResultsChart(const std::vector<ChartLine>& lines, const QString& xTitle, const QString& yTitle,
+                         bool symbols) {
   auto* chart = new QChart;
   auto* xAxis = new QValueAxis(chart);
   auto* yAxis = new QValueAxis(chart);
@@ -59,6 +60,7 @@ QChart* MakeResultsChart(const std::vector<ChartLine>& lines, const QString& xTi
   for (std::size_t i = 0; i < lines.size(); ++i) {
     QLineSeries* series = LineOf(lines[i].series.points, chart);
     series->setName(lines[i].name);
+    series->setPointsVisible(symbols);
     chart->addSeries(series);
     series->attachAxis(xAxis);
     series->attachAxis(yAxis);

@@ -15,8 +15,11 @@ struct ChartLine {
   tamsic::GraphSeries series;
 };
 
-// A new chart, owned by the caller (a chart view takes it over).
-QChart* MakeResultsChart(const std::vector<ChartLine>& lines, const QString& xTitle, const QString& yTitle);
+// A new chart, owned by the caller (a chart view takes it over). `symbols`
+// marks each point of the lines, as the project's special option "Show
+// symbols on graphs" asks.
+QChart* MakeResultsChart(const std::vector<ChartLine>& lines, const QString& xTitle, const QString& yTitle,
+                         bool symbols = false);
 
 // Writes what the view shows: an SVG drawing when the path ends in ".svg",
 // else a PNG image. False when the file could not be written.

@@ -280,7 +280,8 @@ void ResultsPage::makeGraph() {
   const QString yTitle = results ? Q(tamsic::AxisTitle(variable, cboVarMod_->currentIndex(), program_.strings))
                                  : Q(program_.strings.text(1939));
   QChart* old = chtResults_->chart();
-  chtResults_->setChart(MakeResultsChart(lines, Q(program_.strings.text(1928)), yTitle));
+  const bool symbols = state_.document.specialOptions.checked[0] == 1;
+  chtResults_->setChart(MakeResultsChart(lines, Q(program_.strings.text(1928)), yTitle, symbols));
   delete old;
   showStatus(status);
 }
