@@ -28,20 +28,13 @@
 #include "results/GraphSeries.h"
 #include "results/ResultVariables.h"
 #include "results/TableExport.h"
+#include "results/ui/NamedButton.h"
 #include "results/ui/ResultsChart.h"
 #include "results/ui/frmSpecify.h"
 
 using tamsic::F;
 
 namespace {
-
-QString Q(const std::string& text) { return QString::fromStdString(text); }
-
-QPushButton* Button(const std::string& caption, const char* name, QWidget* parent) {
-  auto* button = new QPushButton(Q(caption), parent);
-  button->setObjectName(name);
-  return button;
-}
 
 QComboBox* Combo(const char* name, QWidget* parent) {
   auto* combo = new QComboBox(parent);

@@ -8,17 +8,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-namespace {
-
-QString Q(const std::string& text) { return QString::fromStdString(text); }
-
-QPushButton* Button(const std::string& caption, const char* name, QWidget* parent) {
-  auto* button = new QPushButton(Q(caption), parent);
-  button->setObjectName(name);
-  return button;
-}
-
-}  // namespace
+#include "results/ui/NamedButton.h"
 
 frmSpecify::frmSpecify(const tamsic::IStringTable& strings, std::vector<std::string> offered,
                        const std::vector<std::string>& chosen, QWidget* parent)
