@@ -8,7 +8,7 @@
 namespace tamsic {
 
 // Shifts the backups one place (".bk2" over ".bk3", ".bak" over ".bk2") and
-// copies the project file over ".bak". Throws FileError when a copy fails.
+// copies the project file to ".bak". Throws FileError when a copy or a move fails.
 void RotateBackups(const std::string& projectPath);
 
 }  // namespace tamsic

@@ -1,10 +1,13 @@
 #include "files/ProjectFile.h"
 
+#include <charconv>
 #include <filesystem>
 
 #include "app/Errors.h"
 #include "files/AtomicFile.h"
+#include "files/TextCodec.h"
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 #include "st/STFile.h"
 
 namespace tamsic {
@@ -65,12 +68,24 @@ std::string AsNumberText(const std::string& text) {
   return text.empty() ? text : NumberToText(LeadingNumber(text));
 }
 
+// A count that is missing or not a whole number would load as no scenarios,
+// and the next save would drop them all.
+std::size_t SceneCount(const std::string& text) {
+  const std::string_view digits = Trim(text);
+  std::size_t count = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), count);
+  if (digits.empty() || error != std::errc() || end != digits.data() + digits.size())
+    throw FileError("The number of scenarios (NumScene) is missing or not a whole number: \"" +
+                    Cp1252ToUtf8(text) + "\"; the project was not loaded");
+  return count;
+}
+
 void ReadGeneral(clsSaveFile& file, ProjectDocument& project, std::size_t& sceneCount) {
   auto read = [&](std::string_view key) { return file.GetEntryCache(key, kGeneral, true); };
   project.title = read("ProjectTitle");
   project.notes = read("ProjectNotes");
   project.users = clsSaveFile::StringToListbox(file.GetEntryCache("Users", kGeneral));
-  sceneCount = static_cast<std::size_t>(std::max(0, LeadingInt(read("NumScene"))));
+  sceneCount = SceneCount(read("NumScene"));
   SpecialOptions& options = project.specialOptions;
   for (int i = 0; i < 10; ++i) {
     options.checked[i] = LeadingInt(read(kOptionKeys[i].key));
@@ -169,6 +184,9 @@ ProjectDocument ReadProject(clsSaveFile& file, std::string_view versionText, Mes
   if (!FileExists(project.reportLocation)) project.reportLocation.clear();
   ReadSTScheme(project.stScheme, file, LeadingNumber(versionText), messages);
   for (std::size_t n = 1; n <= sceneCount; ++n) project.scenarios.Add(LoadScenario(file, n));
+  if (file.FindSectionInCache(ScenarioSectionName(sceneCount + 1, ScenarioSection::ScenarioNotes)))
+    throw FileError("The file holds more scenarios than its number of scenarios (NumScene) says, " +
+                    std::to_string(sceneCount) + "; the project was not loaded");
   return project;
 }
 

@@ -10,8 +10,10 @@ std::optional<OpenedProject> OpenProjectFile(const std::string& path, Messages& 
                                              bool makeBackups, char decimalSeparator) {
   auto version = IsTamsicProject(path, messages);
   if (!version) return std::nullopt;
+  // Only a file that loads becomes a backup: a damaged one must not push good ones out.
+  OpenedProject opened{LoadProject(path, *version, messages, decimalSeparator), *version};
   if (makeBackups) RotateBackups(path);
-  return OpenedProject{LoadProject(path, *version, messages, decimalSeparator), *version};
+  return opened;
 }
 
 }  // namespace tamsic

@@ -49,6 +49,9 @@ class clsSaveFile {
   void ReadFile();
   std::string GotoSection(std::string_view name);
   std::string GotoNextSection();
+  // Moves the cursor past the next section of that name ahead of it; false
+  // when there is none (the cursor stays).
+  bool FindSectionInCache(std::string_view section);
   std::string GetEntryCache(std::string_view key, std::string_view section, bool decode = false,
                             bool localise = false);
   // Parses a grid string into target; leaves target untouched when the text
@@ -94,7 +97,6 @@ class clsSaveFile {
   std::string_view ReadPhysicalLine();
   std::string ReadLine();
   void CacheSection(const std::string& section);
-  bool FindSectionInCache(std::string_view section);
   std::string Localise(std::string value) const;
   void Write(std::string_view text) { output_.append(text); }
 

@@ -68,6 +68,41 @@ TEST_F(OpenAndSaveTest, FourOpeningsKeepThreeBackups) {
   EXPECT_TRUE(recorder.box.shown.empty());
 }
 
+TEST_F(OpenAndSaveTest, ADamagedProjectNeverPushesGoodBackupsOut) {
+  ProjectDocument project = test::FilledProject(1);
+  SaveProject(project, path, recorder.messages);
+  const std::string good = ReadAll(path);
+  for (int opening = 0; opening < 3; ++opening) ASSERT_TRUE(OpenProjectFile(path, recorder.messages, true));
+  // The scenario sections cut off: the load fails, three times over.
+  std::ofstream(path, std::ios::binary | std::ios::trunc) << good.substr(0, good.find("[1 Scenario Notes]"));
+  for (int opening = 0; opening < 3; ++opening)
+    EXPECT_THROW(OpenProjectFile(path, recorder.messages, true), std::exception);
+  for (const char* backup : {".bak", ".bk2", ".bk3"}) EXPECT_EQ(ReadAll(path + backup), good) << backup;
+  EXPECT_FALSE(fs::exists(path + ".bak.new"));
+}
+
+TEST_F(OpenAndSaveTest, AScenarioCountThatIsMissingOrWrongIsALoadError) {
+  ProjectDocument project = test::FilledProject(2);
+  SaveProject(project, path, recorder.messages);
+  const std::string saved = ReadAll(path);
+  const auto line = saved.find("NumScene=");
+  const auto lineEnd = saved.find("\r\n", line);
+  const auto withCount = [&](const std::string& entry) {
+    std::ofstream(path, std::ios::binary | std::ios::trunc)
+        << saved.substr(0, line) << entry << saved.substr(lineEnd);
+  };
+  for (const char* entry : {"", "NumScene=\"\"", "NumScene=\"two\"", "NumScene=\"0\"", "NumScene=\"2x\"",
+                            "NumScene=\"-1\""}) {
+    withCount(entry);
+    EXPECT_THROW(LoadProject(path, "9.99", recorder.messages), FileError) << entry;
+  }
+  // Fewer than the file holds would drop the rest at the next save.
+  withCount("NumScene=\"1\"");
+  EXPECT_THROW(LoadProject(path, "9.99", recorder.messages), FileError);
+  withCount("NumScene=\" 2 \"");
+  EXPECT_EQ(LoadProject(path, "9.99", recorder.messages).scenarios.Count(), 2u);
+}
+
 TEST_F(OpenAndSaveTest, FailedSaveLeavesThePreviousFileIntact) {
   SaveProject(test::FilledProject(1), path, recorder.messages);
   const std::string before = ReadAll(path);
