@@ -116,7 +116,9 @@ class Tokenizer {
       case '^': return make(TokenKind::Caret, 1);
       case '(': return make(TokenKind::LeftParen, 1);
       case ')': return make(TokenKind::RightParen, 1);
-      case ';': return make(TokenKind::Semicolon, 1);
+      // Project files turn ";" in a cell into ":", so both separate arguments.
+      case ';':
+      case ':': return make(TokenKind::Semicolon, 1);
       case '=': return make(TokenKind::Equal, 1);
       case '<': return after == '=' ? make(TokenKind::LessEqual, 2) : make(TokenKind::Less, 1);
       case '>':

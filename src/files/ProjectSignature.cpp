@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "files/AtomicFile.h"
+#include "files/TextCodec.h"
 
 namespace tamsic {
 
@@ -25,7 +26,7 @@ std::optional<std::string> IsTamsicProject(const std::string& path, Messages& me
   std::string firstLine;
   std::getline(file, firstLine);
   if (!firstLine.empty() && firstLine.back() == '\r') firstLine.pop_back();
-  return SignatureVersion(firstLine);
+  return SignatureVersion(std::string(WithoutByteOrderMark(firstLine)));
 }
 
 }  // namespace tamsic

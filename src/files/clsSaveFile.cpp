@@ -80,6 +80,7 @@ bool clsSaveFile::OpenFile(const std::string& path, int mode, int flag) {
   bytes << file.rdbuf();
   if (file.bad()) throw FileError("Cannot read " + Cp1252ToUtf8(path) + ": " + LastSystemError());
   input_ = std::move(bytes).str();
+  input_.erase(0, input_.size() - WithoutByteOrderMark(input_).size());
   open_ = true;
   return true;
 }
@@ -88,6 +89,7 @@ void clsSaveFile::OpenText(std::string text) {
   path_.clear();
   mode_ = ModeRead;
   input_ = std::move(text);
+  input_.erase(0, input_.size() - WithoutByteOrderMark(input_).size());
   position_ = 0;
   open_ = true;
 }
@@ -323,11 +325,15 @@ std::string clsSaveFile::EncodeCell(std::string_view text) {
   return out;
 }
 
+// The file keeps no difference between ":" and ";". In a function (a text
+// that begins with "=") the only use of either is between arguments, where
+// the user types ";", so that is what a function reads back.
 std::string clsSaveFile::DecodeCell(std::string_view text) {
   std::string out(text);
   if (out.find_first_of("`\xFC\xFD") == std::string::npos) return out;
+  const char separator = out.starts_with('=') ? ';' : ':';
   for (char& c : out) {
-    if (c == kOldColon || c == kBackQuote) c = ':';
+    if (c == kOldColon || c == kBackQuote) c = separator;
     else if (c == kOldSemicolon) c = ';';
   }
   return out;

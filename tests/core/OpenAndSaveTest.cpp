@@ -103,6 +103,17 @@ TEST_F(OpenAndSaveTest, AScenarioCountThatIsMissingOrWrongIsALoadError) {
   EXPECT_EQ(LoadProject(path, "9.99", recorder.messages).scenarios.Count(), 2u);
 }
 
+TEST_F(OpenAndSaveTest, AByteOrderMarkIsSkipped) {
+  SaveProject(test::FilledProject(1), path, recorder.messages);
+  const ProjectDocument plain = LoadProject(path, "9.99", recorder.messages);
+  const std::string saved = ReadAll(path);
+  std::ofstream(path, std::ios::binary | std::ios::trunc) << "\xEF\xBB\xBF" << saved;
+  const auto opened = OpenProjectFile(path, recorder.messages, false);
+  ASSERT_TRUE(opened);
+  EXPECT_EQ(opened->versionText, "9.99") << "a mark read as text would rename the sensitivity-test variables";
+  EXPECT_EQ(opened->document, plain);
+}
+
 TEST_F(OpenAndSaveTest, FailedSaveLeavesThePreviousFileIntact) {
   SaveProject(test::FilledProject(1), path, recorder.messages);
   const std::string before = ReadAll(path);

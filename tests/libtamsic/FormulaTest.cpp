@@ -86,7 +86,7 @@ TEST(Formula, EveryFunctionAndItsArgumentCount) {
   const double pi = std::numbers::pi;
   const std::pair<const char*, double> cases[] = {
       {"SQRT(16)", 4},   {"LOG10(1000)", 3}, {"LN(E)", 1},        {"EXP(0)", 1},
-      {"POW(2;10)", 1024}, {"ABS(-3)", 3},   {"MIN(2;-3)", -3},   {"MAX(2;-3)", 2},
+      {"POW(2;10)", 1024}, {"ABS(-3)", 3},   {"MIN(2;-3)", -3},   {"MAX(2:-3)", 2},
       {"MOD(7;3)", 1},   {"ROUND(2.5)", 3},  {"ROUND(-2.5)", -3}, {"FLOOR(-1.5)", -2},
       {"CEIL(1.2)", 2},  {"SIN(PI/2)", 1},   {"COS(0)", 1},       {"TAN(PI/4)", 1},
       {"ASIN(1)", pi / 2}, {"ACOS(-1)", pi}, {"ATAN(1)", pi / 4}, {"SRAND(250)", 0.25},
