@@ -42,11 +42,28 @@ double CellReader::Number(Field field, Range range, double empty) const {
   return *number;
 }
 
+namespace {
+
+bool Outside(double value, Range range) { return value < range.low || value > range.high; }
+
+// A constant and every value of a file must lie in the input's range; a
+// function is clamped to it where it is used.
+void CheckRange(const Rate& rate, Range range, const std::string& where) {
+  if (rate.isConstant() && Outside(rate.constant(), range))
+    throw SimError(where + " " + OutOfRange(rate.constant(), range));
+  if (const formula::FileSeries* series = rate.series())
+    for (std::size_t i = 0; i < series->size(); ++i)
+      if (Outside(series->value(i), range))
+        throw SimError(where + ": the file " + series->name() + ", line " + std::to_string(series->line(i)) +
+                       ": the value " + OutOfRange(series->value(i), range));
+}
+
+}  // namespace
+
 Rate CellReader::TextRate(Field field, Range range, double empty) const {
   Rate rate = Rate::Read(scenario_.Text(field), empty, Key(field), folder_);
   countsUsed_ = countsUsed_ || rate.usesPopulationCounts();
-  if (rate.isConstant() && (rate.constant() < range.low || rate.constant() > range.high))
-    throw SimError(Key(field) + " " + OutOfRange(rate.constant(), range));
+  CheckRange(rate, range, Key(field));
   return rate;
 }
 
@@ -74,8 +91,7 @@ Rate CellReader::GridRate(Field grid, std::size_t row, std::size_t col, Range ra
   const std::string where = Where(grid, row, col);
   Rate rate = Rate::Read(table.at(row, col), empty, where, folder_);
   countsUsed_ = countsUsed_ || rate.usesPopulationCounts();
-  if (rate.isConstant() && (rate.constant() < range.low || rate.constant() > range.high))
-    throw SimError(where + " " + OutOfRange(rate.constant(), range));
+  CheckRange(rate, range, where);
   return rate;
 }
 

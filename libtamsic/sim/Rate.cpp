@@ -52,7 +52,7 @@ Rate Rate::Read(std::string_view text, double emptyValue, const std::string& whe
   }
   if (const auto file = formula::FileReferenceName(cell)) {
     if (file->empty()) throw SimError(where + ": \"" + std::string(cell) + "\" names no file");
-    auto loaded = formula::FileSeries::FromFile(folder / *file);
+    auto loaded = formula::FileSeries::FromFile(folder, *file);
     if (!loaded.series) throw SimError(where + ": " + loaded.error);
     if (loaded.series->size() == 0) throw SimError(where + ": the file " + *file + " holds no values");
     rate.series_ = std::make_shared<const formula::FileSeries>(std::move(*loaded.series));

@@ -33,6 +33,8 @@ class Rate {
 
   bool isConstant() const { return !program_ && !series_; }
   double constant() const { return value_; }
+  // The values of a file reference; null for a number or a function.
+  const formula::FileSeries* series() const { return series_.get(); }
   // Whether the value can differ between individuals of one population.
   bool perIndividual() const { return perIndividual_; }
   bool usesPopulationCounts() const { return usesCounts_; }

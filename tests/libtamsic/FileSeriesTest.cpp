@@ -17,11 +17,11 @@ TEST(FileSeries, OneValuePerYearThenTheLast) {
 }
 
 TEST(FileSeries, BadContentIsNamed) {
-  EXPECT_EQ(FileSeries::FromText("1\n2\nabc\n").error, "\"abc\" on line 3 is not a number");
+  EXPECT_EQ(FileSeries::FromText("1\n2\nabc\n").error, "\"abc\" on line 3 is not a finite number");
   EXPECT_EQ(FileSeries::FromText(" \n;\n").error, "the file holds no values");
-  const auto missing = FileSeries::FromFile("/nonexistent/rates.txt");
+  const auto missing = FileSeries::FromFile("/nonexistent", "rates.txt");
   EXPECT_FALSE(missing.series);
-  EXPECT_EQ(missing.error, "cannot read the file /nonexistent/rates.txt");
+  EXPECT_EQ(missing.error, "cannot find the file rates.txt");
 }
 
 TEST(FileSeries, ReferenceNames) {

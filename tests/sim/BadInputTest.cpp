@@ -2,7 +2,14 @@
 // and the input, and keeps the files of scenarios that ran before it.
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
+#include <fstream>
+
 #include "SimTestSupport.h"
+#include "sim/CellReader.h"
+#include "sim/SimError.h"
+#include "support/TestFolder.h"
 
 namespace tamsic::test {
 namespace {
@@ -46,6 +53,39 @@ TEST(SimBadInput, AMissingFileReference) {
   const std::string reply = Reply(s);
   EXPECT_TRUE(reply.starts_with("Error: scenario \"Base\": CarryingCap1, Carrying Capacity (K), P1: ")) << reply;
   EXPECT_NE(reply.find("capacity.txt"), std::string::npos) << reply;
+}
+
+// The message of the reader's refusal of a file reference in the first female mortality cell.
+std::string FileRefusal(const TestFolder& folder, const std::string& reference) {
+  SimScenario s = Base();
+  s.cell(F("gridMortFemales"), 1, 1, reference);
+  const sim::CellReader reader(s.scenario(), folder.path());
+  try {
+    reader.GridRate(F("gridMortFemales"), 1, 1, sim::kPercent, 0);
+  } catch (const sim::SimError& refusal) {
+    return refusal.what();
+  }
+  return "accepted";
+}
+
+TEST(SimBadInput, FileReferencesHoldFiniteValuesInRangeAndStayInTheFolder) {
+  TestFolder folder;
+  std::ofstream(folder.path() / "good.txt") << "10\n20;30\n";
+  std::ofstream(folder.path() / "high.txt") << "10\n\n20;130\n";
+  std::ofstream(folder.path() / "nan.txt") << "10\nnan\n";
+  std::ofstream(folder.path() / "inf.txt") << "inf\n";
+  EXPECT_EQ(FileRefusal(folder, "file=good.txt"), "accepted");
+  EXPECT_EQ(FileRefusal(folder, "file=high.txt"),
+            "MortFemales, P1, Mortality From Age 0 to 1: the file high.txt, line 3: the value is 130, outside 0 .. 100");
+  EXPECT_NE(FileRefusal(folder, "file=nan.txt").find("\"nan\" on line 2 is not a finite number"), std::string::npos);
+  EXPECT_NE(FileRefusal(folder, "file=inf.txt").find("is not a finite number"), std::string::npos);
+  // Neither a pipe with no writer (it would hang the run) nor a device (it never ends) is read.
+  ASSERT_EQ(mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
+  EXPECT_NE(FileRefusal(folder, "file=pipe").find("is not a regular file"), std::string::npos);
+  for (const char* outside : {"file=/dev/zero", "file=../good.txt", "file=sub/../../good.txt"})
+    EXPECT_NE(FileRefusal(folder, outside).find("relative to the project's folder"), std::string::npos) << outside;
+  std::ofstream(folder.path() / "big.txt") << std::string(formula::FileSeries::kMaxFileBytes + 1, '1');
+  EXPECT_NE(FileRefusal(folder, "file=big.txt").find("larger than"), std::string::npos);
 }
 
 TEST(SimBadInput, NoPopulations) {
