@@ -1,5 +1,7 @@
 #include "report/Outcome.h"
 
+#include "engine/OutputFiles.h"
+
 namespace tamsic::report {
 
 std::string Trim(const std::string& text) {
@@ -9,7 +11,7 @@ std::string Trim(const std::string& text) {
 }
 
 std::string ScenarioFile(const std::string& project, const std::string& scenario, const std::string& extension) {
-  return Trim(project) + "_" + Trim(scenario) + extension;
+  return ScenarioFileName(project, scenario, extension);
 }
 
 double Outcome::deterministicR(int block) const {

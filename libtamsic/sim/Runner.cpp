@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <random>
 
+#include "engine/OutputFiles.h"
 #include "model/TextNumbers.h"
 #include "report/ExtraFiles.h"
 #include "report/Outcome.h"
@@ -74,7 +75,7 @@ Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, con
   report::WriteYearlyData(outcome, report::ScenarioFile(title, model.name, ".dat"));
   report::WriteRunTable(outcome, report::ScenarioFile(title, model.name, ".run"));
   report::WriteOutputReport(outcome, report::ScenarioFile(title, model.name, ".out"));
-  report::UpdateSummary(outcome, report::Trim(title) + ".sum");
+  report::UpdateSummary(outcome, SummaryFileName(title));
   return {report::SummaryLine(outcome), false};
 }
 

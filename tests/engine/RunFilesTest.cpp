@@ -40,6 +40,23 @@ TEST(OutputFiles, NamesArePartsTrimmed) {
   EXPECT_EQ(SummaryFile("/w", "P "), "/w/P.sum");
 }
 
+TEST(OutputFiles, NoTitleOrNameLeavesTheFolder) {
+  EXPECT_EQ(FileNamePart(" ../x "), "_._x");
+  EXPECT_EQ(FileNamePart("/abs/x"), "_abs_x");
+  EXPECT_EQ(FileNamePart("a\\b:c*?\"<>|\x01\x7F"), "a_b_c________");
+  EXPECT_EQ(FileNamePart("Koalas v1.2..."), "Koalas v1.2__.");
+  const std::filesystem::path folder = "/w/project";
+  const char* hostile[] = {"..", "../..", "/", "/etc/passwd", "a/../../b", "..\\..\\x", "\n..", ".", " ", ""};
+  for (const char* title : hostile)
+    for (const char* name : hostile)
+      for (auto kind : {ScenarioOutput::YearlyData, ScenarioOutput::InputReport}) {
+        const auto file = ScenarioOutputFile(folder, title, name, kind);
+        EXPECT_EQ(file.parent_path(), folder) << title << " / " << name;
+        EXPECT_EQ(file.lexically_normal().parent_path(), folder) << title << " / " << name;
+        EXPECT_EQ(SummaryFile(folder, title).lexically_normal().parent_path(), folder) << title;
+      }
+}
+
 TEST(OutputFiles, PruningDropsEveryLineOfTheScenarioAndNothingElse) {
   test::TestFolder folder;
   const auto summary = SummaryFile(folder.path(), "P");
