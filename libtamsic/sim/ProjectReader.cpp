@@ -47,6 +47,11 @@ const clsScenario& FindScenario(const ProjectDocument& project, const std::strin
     if (given >= 1 && given <= project.scenarios.Count()) number = given;
   }
   if (number == 0) throw SimError("there is no scenario \"" + name + "\" in the project file");
+  // A second scenario of the same name would never run, and the first would be reported twice.
+  const std::string& found = project.scenarios.Item(number).Text(F("txtSceneName"));
+  if (const std::size_t other = project.scenarios.Find(found, number))
+    throw SimError("scenarios " + std::to_string(number) + " and " + std::to_string(other) + " are both named \"" +
+                   found + "\"; give each scenario a name of its own");
   return project.scenarios.Item(number);
 }
 

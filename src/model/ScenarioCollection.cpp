@@ -43,8 +43,8 @@ void ScenarioCollection::Remove(std::size_t number) {
   items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(checked(number, Count())));
 }
 
-std::size_t ScenarioCollection::Find(std::string_view name) const {
-  for (std::size_t i = 0; i < items_.size(); ++i)
+std::size_t ScenarioCollection::Find(std::string_view name, std::size_t after) const {
+  for (std::size_t i = after; i < items_.size(); ++i)
     if (SameIgnoringCase(items_[i].Text(F("txtSceneName")), name)) return i + 1;
   return 0;
 }

@@ -20,8 +20,9 @@ class ScenarioCollection {
   void Insert(std::size_t number, clsScenario scenario);
   void Remove(std::size_t number);
 
-  // The number of the scenario of that name, compared without regard to case; 0 when none.
-  std::size_t Find(std::string_view name) const;
+  // The number of the first scenario after number `after` with that name,
+  // compared without regard to case; 0 when none.
+  std::size_t Find(std::string_view name, std::size_t after = 0) const;
 
   bool operator==(const ScenarioCollection&) const = default;
 

@@ -88,6 +88,17 @@ TEST(SimBadInput, FileReferencesHoldFiniteValuesInRangeAndStayInTheFolder) {
   EXPECT_NE(FileRefusal(folder, "file=big.txt").find("larger than"), std::string::npos);
 }
 
+TEST(SimBadInput, TwoScenariosOfOneName) {
+  SimScenario second = Base();
+  second.text(F("txtNumIter"), "3");
+  SimScenario third = Base();
+  third.text(F("txtSceneName"), "BASE");
+  EXPECT_EQ(RunScenario({Base(), second}, "Base", "SEED1").reply,
+            "Error: scenarios 1 and 2 are both named \"Base\"; give each scenario a name of its own");
+  EXPECT_EQ(RunScenario({Base(), third}, "Base", "SEED1").reply,
+            "Error: scenarios 1 and 2 are both named \"Base\"; give each scenario a name of its own");
+}
+
 TEST(SimBadInput, NoPopulations) {
   SimScenario s = Base();
   s.text(F("txtNumPop"), "0");
