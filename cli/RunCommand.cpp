@@ -130,9 +130,21 @@ void PrintSummary(const std::string& reply) {
 
 }  // namespace
 
+std::optional<OpenedProject> OpenForReading(const std::string& path, Messages& messages, StderrMessageBox& box) {
+  auto opened = OpenProjectFile(path, messages, false);
+  if (!opened && !box.sawProblem())
+    messages.show(Cp1252ToUtf8(path) + " is not a Tamsic project file", msg::kError, MsgIcon::Critical);
+  if (box.sawProblem()) return std::nullopt;
+  return opened;
+}
+
 int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageBox& box) {
-  const auto opened = OpenProjectFile(arguments.project, messages, false);
-  if (!opened || box.sawProblem()) return 1;
+  const auto opened = OpenForReading(arguments.project, messages, box);
+  if (!opened) return 1;
+  if (opened->document.scenarios.Count() == 0) {
+    messages.show(arguments.project + " holds no scenario to run", msg::kError, MsgIcon::Critical);
+    return 1;
+  }
   const std::string list = ScenarioList(opened->document, arguments, messages);
   if (list.empty()) return 1;
   const std::filesystem::path projectFolder = std::filesystem::absolute(arguments.project).parent_path();

@@ -8,6 +8,7 @@
 
 #include "StderrMessageBox.h"
 #include "app/Messages.h"
+#include "files/ProjectOpen.h"
 
 namespace tamsic {
 
@@ -17,6 +18,10 @@ struct RunArguments {
   std::optional<std::uint64_t> seed;
   int threads = 0;  // 0: every core
 };
+
+// A project read for the command line, with no backups: nothing here changes
+// the file. Nothing when it could not be read; the reason is on stderr.
+std::optional<OpenedProject> OpenForReading(const std::string& path, Messages& messages, StderrMessageBox& box);
 
 // The exit code: 0 when the engine answered "Message", else 1 (its reply on stderr).
 int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageBox& box);

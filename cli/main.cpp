@@ -3,7 +3,8 @@
 //   tamsic-cli resave IN.tpj OUT.tpj  load a project and save it again
 //   tamsic-cli run FILE.tpj [--scenario NAME]... [--seed N] [--threads N]
 //                                   simulate scenarios (all when none is named)
-// Every failure ends with the program's message on stderr and exit code 1.
+// Every failure ends with the program's message on stderr and exit code 1;
+// a command line that cannot be understood ends with exit code 2.
 #include <CLI/CLI.hpp>
 
 #include <iostream>
@@ -19,18 +20,16 @@
 namespace tamsic {
 namespace {
 
+constexpr int kUsageError = 2;
+
 struct Session {
   StderrMessageBox box;
   EnglishMessages strings;
   Messages messages{box, strings};
 };
 
-// Reading for the command line makes no backups: nothing here changes the file.
 std::optional<OpenedProject> Open(const std::string& path, Session& session) {
-  auto opened = OpenProjectFile(path, session.messages, false);
-  if (!opened && !session.box.sawProblem())
-    session.messages.show(Cp1252ToUtf8(path) + " is not a Tamsic project file", msg::kError, MsgIcon::Critical);
-  return opened;
+  return OpenForReading(path, session.messages, session.box);
 }
 
 void PrintInfo(const OpenedProject& opened) {
@@ -63,13 +62,13 @@ int Info(const std::string& path) {
   const auto opened = Open(path, session);
   if (!opened) return 1;
   PrintInfo(*opened);
-  return session.box.sawProblem() ? 1 : 0;
+  return 0;
 }
 
 int Resave(const std::string& in, const std::string& out) {
   Session session;
   const auto opened = Open(in, session);
-  if (!opened || session.box.sawProblem()) return 1;
+  if (!opened) return 1;
   SaveProject(opened->document, out, session.messages);
   return 0;
 }
@@ -90,7 +89,13 @@ int Run(int argc, char** argv) {
   simulate->add_option("--scenario", run.scenarios, "Scenario to run (repeatable; default: all)");
   auto* seedOption = simulate->add_option("--seed", seed, "Random seed, for repeatable results");
   simulate->add_option("--threads", run.threads, "Threads to use (default: every core)")->check(CLI::NonNegativeNumber);
-  CLI11_PARSE(app, argc, argv);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    // Help asked for is no failure; anything else is a usage error.
+    const int printed = app.exit(error);
+    return printed == 0 ? 0 : kUsageError;
+  }
   if (*info) return Info(file);
   if (*simulate) {
     if (*seedOption) run.seed = seed;
