@@ -15,6 +15,7 @@
 #include <cmath>
 
 #include "sim/Journal.h"
+#include "sim/RunMonitor.h"
 #include "sim/SimContext.h"
 #include "sim/Steps.h"
 #include "sim/TakeCensus.h"
@@ -76,8 +77,9 @@ GenomeShape ShapeOf(const Model& m) {
   return shape;
 }
 
-void RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std::uint64_t seed, int iteration,
+bool RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std::uint64_t seed, int iteration,
                   World& world, IterationRecord& record) {
+  const RunMonitor& monitor = RunMonitor::get();
   Reset(m, seed, iteration, world);
   record.reset(m.populations > 1 ? m.populations + 1 : 1, m.years);
   world.created = m.options.createdFile ? &record.journal.created : nullptr;
@@ -86,6 +88,10 @@ void RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
   TakeCensus(m, world, record);
   NoteCensus(m, world, record);
   for (world.year = 1; world.year <= m.years; ++world.year) {
+    if (monitor.cancelled()) {
+      world.created = nullptr;
+      return false;
+    }
     // The counts of last year's census hold until the first births.
     DrawEnvironment(m, world, context);
     Breed(m, world, context);
@@ -101,6 +107,7 @@ void RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
   }
   NoteLiving(m, world, record);
   world.created = nullptr;
+  return true;
 }
 
 }  // namespace tamsic::sim

@@ -15,8 +15,10 @@ struct StartingNumbers {
   std::vector<int> byAge[2];
 };
 
-// Runs iteration `iteration` (from 1) into `record`, reusing `world`.
-void RunIteration(const Model& model, const std::vector<StartingNumbers>& start, std::uint64_t seed,
+// Runs iteration `iteration` (from 1) into `record`, reusing `world`. A
+// cancel request is seen every simulated year, so that one long iteration
+// of a large population stops at once; false when it stopped so.
+bool RunIteration(const Model& model, const std::vector<StartingNumbers>& start, std::uint64_t seed,
                   int iteration, World& world, IterationRecord& record);
 
 // The genome layout a scenario needs.

@@ -106,7 +106,7 @@ std::optional<Results> Simulate(const Model& m, const std::vector<StartingNumber
     for (int i = next++; i <= m.iterations; i = next++) {
       if (monitor.cancelled() || fold.failed()) return;
       try {
-        RunIteration(m, start, seed, i, world, record);
+        if (!RunIteration(m, start, seed, i, world, record)) return;
       } catch (const std::bad_alloc&) {
         fold.fail(i, "iteration " + std::to_string(i) + " ran out of memory");
         return;

@@ -12,6 +12,8 @@
 #include "SimTestSupport.h"
 #include "sim/LifeTable.h"
 #include "sim/ReadModel.h"
+#include "sim/RunMonitor.h"
+#include "sim/Simulate.h"
 
 namespace tamsic::test {
 namespace {
@@ -34,6 +36,22 @@ double EulerLotkaLambda() {
   double low = 0.5, high = 2.0;
   for (int i = 0; i < 100; ++i) (sum(0.5 * (low + high)) > 1.0 ? low : high) = 0.5 * (low + high);
   return 0.5 * (low + high);
+}
+
+TEST(SimChecks, ACancelStopsAnIterationWithinAYear) {
+  const SimScenario s("Long", 1, 500, 100000);
+  const sim::Model model = sim::ReadModel(s.scenario(), std::filesystem::current_path(), {});
+  std::vector<sim::LifeTable> tables{sim::BuildLifeTable(model, 0)};
+  const auto start = sim::StartingPopulations(model, tables);
+  sim::World world(1, 1);
+  sim::IterationRecord record;
+  sim::RunMonitor& monitor = sim::RunMonitor::get();
+  monitor.start(1);
+  EXPECT_TRUE(sim::RunIteration(model, start, 1, 1, world, record));
+  monitor.requestCancel();
+  EXPECT_FALSE(sim::RunIteration(model, start, 1, 1, world, record));
+  EXPECT_EQ(world.year, 1) << "stopped before the first simulated year";
+  monitor.finish();
 }
 
 TEST(SimChecks, DeterministicGrowthIsTheDominantEigenvalue) {
