@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <vector>
@@ -61,6 +62,21 @@ bool WriteAll(int fd, std::string_view bytes) {
   return true;
 }
 
+// A write killed half-way leaves its temporary file behind, which nothing
+// else would ever remove. Older than a minute, none can still be in use.
+void RemoveStaleTemporaries(const std::string& path) {
+  const std::filesystem::path target(path);
+  const std::string prefix = target.filename().string() + ".~";
+  const auto folder = target.has_parent_path() ? target.parent_path() : std::filesystem::path(".");
+  const auto cutoff = std::filesystem::file_time_type::clock::now() - std::chrono::minutes(1);
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+    const std::string name = entry.path().filename().string();
+    if (name.size() != prefix.size() + 6 || !name.starts_with(prefix) || !entry.is_regular_file(error)) continue;
+    if (entry.last_write_time(error) < cutoff && !error) std::filesystem::remove(entry.path(), error);
+  }
+}
+
 }  // namespace
 
 bool FileExists(const std::string& path) {
@@ -85,6 +101,7 @@ void WriteFileReplacing(const std::string& path, std::string_view bytes) {
     Fail("Cannot write", path);
   if (::rename(temp.path().c_str(), path.c_str()) != 0) Fail("Cannot replace", path);
   temp.keep();
+  RemoveStaleTemporaries(path);
 }
 
 void CopyFileOver(const std::string& from, const std::string& to) {

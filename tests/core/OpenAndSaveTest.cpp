@@ -2,6 +2,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -112,6 +113,20 @@ TEST_F(OpenAndSaveTest, AByteOrderMarkIsSkipped) {
   ASSERT_TRUE(opened);
   EXPECT_EQ(opened->versionText, "9.99") << "a mark read as text would rename the sensitivity-test variables";
   EXPECT_EQ(opened->document, plain);
+}
+
+TEST_F(OpenAndSaveTest, ASaveClearsWhatAKilledSaveLeftBehind) {
+  const std::string stale = path + ".~a1B2c3";
+  const std::string fresh = path + ".~d4E5f6";
+  std::ofstream(stale) << "half a project";
+  std::ofstream(fresh) << "a save in progress";
+  fs::last_write_time(stale, fs::file_time_type::clock::now() - std::chrono::hours(1));
+  std::ofstream(dir / "Other.tpj.~a1B2c3") << "another project's";
+  fs::last_write_time(dir / "Other.tpj.~a1B2c3", fs::file_time_type::clock::now() - std::chrono::hours(1));
+  SaveProject(test::FilledProject(1), path, recorder.messages);
+  EXPECT_FALSE(fs::exists(stale));
+  EXPECT_TRUE(fs::exists(fresh));
+  EXPECT_TRUE(fs::exists(dir / "Other.tpj.~a1B2c3"));
 }
 
 TEST_F(OpenAndSaveTest, FailedSaveLeavesThePreviousFileIntact) {
