@@ -31,8 +31,10 @@ std::string Trim(const std::string& text);
 void WriteYearlyData(const Outcome& outcome, const std::string& path);
 void WriteRunTable(const Outcome& outcome, const std::string& path);
 void WriteOutputReport(const Outcome& outcome, const std::string& path);
-// Replaces the scenario's line of the project summary (or adds it), keeping the others.
-void UpdateSummary(const Outcome& outcome, const std::string& path);
+// The project summary with the scenario's line replaced (or added): writes to
+// `path` the lines of the summary at `from`, when there is one, but this
+// scenario's, then this scenario's new line.
+void UpdateSummary(const Outcome& outcome, const std::string& from, const std::string& path);
 // The summary line of the scenario (without the line end): the final year of
 // the metapopulation, or of the only population.
 std::string SummaryLine(const Outcome& outcome);

@@ -50,8 +50,8 @@ std::string SummaryLine(const Outcome& o) {
          Num(r.extinctionYears(block, year).mean());
 }
 
-void UpdateSummary(const Outcome& o, const std::string& path) {
-  const std::vector<std::string> others = OtherLines(path, o.model.name);
+void UpdateSummary(const Outcome& o, const std::string& from, const std::string& path) {
+  const std::vector<std::string> others = OtherLines(from, o.model.name);
   TextFile file(path);
   file.line(kHeading);
   for (const std::string& line : others) file.line(line);

@@ -40,6 +40,33 @@ std::string Now() {
   return text;
 }
 
+// A scenario's files are written under temporary names and moved into place
+// together once all are complete, so that a failure (a full disk) leaves the
+// files of an earlier run as they were, never half of them new.
+void WriteResultFiles(const report::Outcome& outcome, const std::string& title) {
+  const std::string& name = outcome.model.name;
+  const std::string dat = report::ScenarioFile(title, name, ".dat");
+  const std::string run = report::ScenarioFile(title, name, ".run");
+  const std::string out = report::ScenarioFile(title, name, ".out");
+  const std::string sum = SummaryFileName(title);
+  const auto part = [](const std::string& file) { return file + ".part"; };
+  try {
+    report::WriteYearlyData(outcome, part(dat));
+    report::WriteRunTable(outcome, part(run));
+    report::WriteOutputReport(outcome, part(out));
+    report::UpdateSummary(outcome, sum, part(sum));
+  } catch (...) {
+    std::error_code ignored;
+    for (const std::string* file : {&dat, &run, &out, &sum}) std::filesystem::remove(part(*file), ignored);
+    throw;
+  }
+  for (const std::string* file : {&dat, &run, &out, &sum}) {
+    std::error_code error;
+    std::filesystem::rename(part(*file), *file, error);
+    if (error) throw SimError("cannot replace the file " + *file + ": " + error.message());
+  }
+}
+
 struct Finished {
   std::string line;  // the scenario's summary line
   bool cancelled = false;
@@ -72,10 +99,7 @@ Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, con
     throw;
   }
   const report::Outcome outcome{model, *results, tables, seed, date};
-  report::WriteYearlyData(outcome, report::ScenarioFile(title, model.name, ".dat"));
-  report::WriteRunTable(outcome, report::ScenarioFile(title, model.name, ".run"));
-  report::WriteOutputReport(outcome, report::ScenarioFile(title, model.name, ".out"));
-  report::UpdateSummary(outcome, SummaryFileName(title));
+  WriteResultFiles(outcome, title);
   return {report::SummaryLine(outcome), false};
 }
 

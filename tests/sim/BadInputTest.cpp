@@ -2,12 +2,17 @@
 // and the input, and keeps the files of scenarios that ran before it.
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <csignal>
+
 #include <fstream>
+#include <map>
 
 #include "SimTestSupport.h"
 #include "sim/CellReader.h"
+#include "sim/Runner.h"
 #include "sim/SimError.h"
 #include "support/TestFolder.h"
 
@@ -97,6 +102,31 @@ TEST(SimBadInput, TwoScenariosOfOneName) {
             "Error: scenarios 1 and 2 are both named \"Base\"; give each scenario a name of its own");
   EXPECT_EQ(RunScenario({Base(), third}, "Base", "SEED1").reply,
             "Error: scenarios 1 and 2 are both named \"Base\"; give each scenario a name of its own");
+}
+
+TEST(SimBadInput, AFullDiskLeavesTheEarlierFilesAsTheyWere) {
+  const std::filesystem::path folder = SaveTestProject({Base()});
+  const auto previous = std::filesystem::current_path();
+  std::filesystem::current_path(folder);
+  ASSERT_TRUE(sim::RunScenarios("T.tpj", "{Base}", "SEED1").starts_with("Message"));
+  std::map<std::string, std::string> before;
+  for (const char* file : {"T_Base.dat", "T_Base.run", "T_Base.out", "T.sum"}) before[file] = ReadAll(file);
+
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit old{};
+  ::getrlimit(RLIMIT_FSIZE, &old);
+  rlimit small = old;
+  small.rlim_cur = 100;
+  ::setrlimit(RLIMIT_FSIZE, &small);
+  const std::string reply = sim::RunScenarios("T.tpj", "{Base}", "SEED2");
+  ::setrlimit(RLIMIT_FSIZE, &old);
+
+  EXPECT_TRUE(reply.starts_with("Error: scenario \"Base\": ")) << reply;
+  for (const auto& [file, text] : before) EXPECT_EQ(ReadAll(file), text) << file;
+  for (const auto& entry : std::filesystem::directory_iterator("."))
+    EXPECT_NE(entry.path().extension(), ".part") << entry.path();
+  std::filesystem::current_path(previous);
+  std::filesystem::remove_all(folder);
 }
 
 TEST(SimBadInput, NoPopulations) {
