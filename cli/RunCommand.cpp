@@ -2,8 +2,9 @@
 // is saved to a work file, the project's folder becomes the current
 // directory (where the engine writes its files), and basSimulation::Run
 // calls tamsicsim in the loaded library. A second thread draws the progress
-// bar from tamsicProgress and turns Ctrl+C into tamsicCancel, so the engine
-// stops after the iterations in hand and the finished scenarios keep their files.
+// bar from tamsicProgress and turns Ctrl+C (and SIGTERM, SIGHUP) into
+// tamsicCancel, so the engine stops within a simulated year and the finished
+// scenarios keep their files.
 #include "RunCommand.h"
 
 #include <unistd.h>
@@ -153,13 +154,15 @@ int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageB
   std::filesystem::current_path(projectFolder);
   LibraryEngine engine;
   NoCursor cursor;
-  std::signal(SIGINT, OnInterrupt);
+  // Ctrl+C, a kill and a closed terminal all stop the engine the same way,
+  // so that no extra file is left half written.
+  for (int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, OnInterrupt);
   std::optional<std::string> reply;
   {
     Watcher watcher(engine);
     reply = basSimulation::Run(engine, cursor, messages, request);
   }
-  std::signal(SIGINT, SIG_DFL);
+  for (int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, SIG_DFL);
   if (!reply) return 1;
   if (!reply->starts_with("Message")) {
     std::cerr << Cp1252ToUtf8(*reply) << "\n";

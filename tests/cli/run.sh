@@ -26,5 +26,18 @@ sed 's/"Northern ridge";"65";"10"/"Northern ridge";"=65*(N";"10"/' "$work/K.tpj"
 "$cli" run "$work/bad.tpj" --scenario Baseline > /dev/null 2> "$work/err"
 [ $? -eq 1 ] && grep -q 'Error: scenario "Baseline": RepRates1, Northern ridge' "$work/err" || fail "function that does not compile"
 
+# SIGTERM stops a run as Ctrl+C does: the engine is asked to stop, and the
+# reply says the run was cancelled. The loop waits for the first progress
+# bar without sleeping.
+sed 's/^NumIter="6"/NumIter="1000000"/' "$work/K.tpj" > "$work/long.tpj"
+"$cli" run "$work/long.tpj" --scenario Managed > /dev/null 2> "$work/long.err" &
+pid=$!
+tries=0
+until grep -q 'iterations' "$work/long.err" 2>/dev/null || [ "$tries" -ge 20000 ]; do tries=$((tries + 1)); done
+kill -TERM "$pid"
+wait "$pid"
+code=$?
+[ "$code" -eq 1 ] && grep -q 'cancelled' "$work/long.err" || fail "SIGTERM stops the run (exit $code)"
+
 [ "$failures" -eq 0 ] && echo "cli run: all passed"
 exit "$failures"
