@@ -1,6 +1,7 @@
 #include "engine/OutputFiles.h"
 
 #include <fstream>
+#include <sstream>
 #include <utility>
 
 #include "app/Errors.h"
@@ -83,10 +84,16 @@ void PruneSummary(const std::filesystem::path& folder, const std::string& projec
 TableFile ReadTableFile(const std::filesystem::path& file) {
   std::ifstream in(file, std::ios::binary);
   if (!in) throw FileError("Cannot read " + file.string());
+  std::ostringstream content;
+  content << in.rdbuf();
+  return ReadTableText(content.str());
+}
+
+TableFile ReadTableText(std::string_view whole) {
   TableFile table;
   bool named = false;
-  for (std::string line; std::getline(in, line);) {
-    const std::string text = Lined(line);
+  for (std::string_view line : Split(whole, '\n')) {
+    const std::string text = Lined(std::string(line));
     if (text.starts_with('$') && !std::exchange(named, true))
       for (std::string_view field : Split(std::string_view(text).substr(1), ';')) table.headings.emplace_back(Trim(field));
     if (text.starts_with('$') || Trim(text).empty()) continue;

@@ -47,5 +47,6 @@ struct TableFile {
 
 // Throws FileError when the file cannot be read.
 TableFile ReadTableFile(const std::filesystem::path& file);
+TableFile ReadTableText(std::string_view text);
 
 }  // namespace tamsic

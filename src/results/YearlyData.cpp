@@ -16,6 +16,7 @@ namespace tamsic {
 namespace {
 
 constexpr int kNameSearchLines = 31;
+constexpr int kMaxYears = 100000;
 constexpr int kPSurviveField = 1;
 constexpr int kPSurviveSEField = 2;
 constexpr int kPExtinct = 31;
@@ -69,18 +70,26 @@ std::optional<double> YearlyData::Value(int block, int year, int number) const {
 YearlyData LoadYearlyData(const std::filesystem::path& file, const clsScenario& scenario) {
   std::ifstream in(file, std::ios::binary);
   if (!in) throw FileError("Cannot read " + file.string());
+  return ReadYearlyData(in, file.string(), scenario);
+}
+
+YearlyData ReadYearlyData(std::istream& in, const std::string& origin, const clsScenario& scenario) {
   const std::string_view name = Trim(scenario.Text(F("txtSceneName")));
   std::string line;
   bool found = false;
   for (int n = 0; n < kNameSearchLines && !found && ReadLine(in, line); ++n) found = Trim(line) == name;
-  if (!found) throw FileError(file.string() + ": no line with the scenario's name in its first 31 lines");
+  if (!found) throw FileError(origin + ": no line with the scenario's name in its first 31 lines");
+  // The array is sized from the scenario before a line is read; a number of
+  // years no run can have is no reason to ask for gigabytes.
+  if (ShapeOf(scenario).years > kMaxYears)
+    throw FileError(origin + ": the scenario's number of years is above " + std::to_string(kMaxYears));
 
   YearlyData data(ShapeOf(scenario));
   const YearlyDataShape& shape = data.shape();
   for (int block = 0; block < shape.blocks(); ++block) {
     for (int year = 0; year <= shape.years; ++year) {
       const std::string where =
-          file.string() + ", block " + std::to_string(block + 1) + ", year " + std::to_string(year);
+          origin + ", block " + std::to_string(block + 1) + ", year " + std::to_string(year);
       if (!ReadLine(in, line)) throw FileError(where + ": the file ends early");
       const auto fields = Split(line, ';');
       if (fields.size() < static_cast<std::size_t>(kFixedFields))

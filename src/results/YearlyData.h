@@ -12,6 +12,7 @@
 // fields per user variable after field 30.
 #include <cstddef>
 #include <filesystem>
+#include <istream>
 #include <optional>
 #include <vector>
 
@@ -61,5 +62,7 @@ class YearlyData {
 // has one line per year whose first field is that year, with at least the 31
 // fixed fields, every field a number. Throws FileError naming what is wrong.
 YearlyData LoadYearlyData(const std::filesystem::path& file, const clsScenario& scenario);
+// The same from a stream; `origin` names it in the errors.
+YearlyData ReadYearlyData(std::istream& in, const std::string& origin, const clsScenario& scenario);
 
 }  // namespace tamsic
