@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 
@@ -12,6 +10,7 @@
 #include "files/ProjectFile.h"
 #include "files/ProjectOpen.h"
 #include "files/ProjectSignature.h"
+#include "support/FullDisk.h"
 #include "support/RecordingMessageBox.h"
 #include "support/TestFolder.h"
 
@@ -134,21 +133,14 @@ TEST_F(OpenAndSaveTest, FailedSaveLeavesThePreviousFileIntact) {
   const std::string before = ReadAll(path);
   fs::permissions(path, fs::perms::owner_read | fs::perms::group_read);
 
-  // A disk that fills up: writes beyond a few bytes fail.
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit old{};
-  ::getrlimit(RLIMIT_FSIZE, &old);
-  rlimit small = old;
-  small.rlim_cur = 100;
-  ::setrlimit(RLIMIT_FSIZE, &small);
   bool failed = false;
   try {
+    const test::FullDisk full;
     SaveProject(test::FilledProject(2), path, recorder.messages);
   } catch (const FileError& error) {
     failed = true;
     EXPECT_NE(std::string(error.what()).find("Trout.tpj"), std::string::npos) << error.what();
   }
-  ::setrlimit(RLIMIT_FSIZE, &old);
   EXPECT_TRUE(failed);
   EXPECT_EQ(ReadAll(path), before);
   EXPECT_EQ(std::distance(fs::directory_iterator(dir), fs::directory_iterator()), 1)

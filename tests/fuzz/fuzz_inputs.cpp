@@ -3,20 +3,12 @@
 #include <cstdint>
 #include <string>
 
+#include "SilentBox.h"
 #include "app/EnglishMessages.h"
 #include "app/Errors.h"
 #include "files/clsSaveFile.h"
 #include "pages/InputHelpers.h"
 #include "st/STFile.h"
-
-namespace {
-
-class SilentBox : public tamsic::IMessageBox {
- public:
-  tamsic::MsgAnswer show(const tamsic::MessageBoxRequest&) override { return tamsic::MsgAnswer::Ok; }
-};
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text(reinterpret_cast<const char*>(data), size);

@@ -3,18 +3,10 @@
 #include <cstdint>
 #include <string>
 
+#include "SilentBox.h"
 #include "app/EnglishMessages.h"
 #include "app/Errors.h"
 #include "files/ProjectFile.h"
-
-namespace {
-
-class SilentBox : public tamsic::IMessageBox {
- public:
-  tamsic::MsgAnswer show(const tamsic::MessageBoxRequest&) override { return tamsic::MsgAnswer::Ok; }
-};
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   SilentBox box;

@@ -2,10 +2,8 @@
 // and the input, and keeps the files of scenarios that ran before it.
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <csignal>
 
 #include <fstream>
 #include <map>
@@ -14,6 +12,7 @@
 #include "sim/CellReader.h"
 #include "sim/Runner.h"
 #include "sim/SimError.h"
+#include "support/FullDisk.h"
 #include "support/TestFolder.h"
 
 namespace tamsic::test {
@@ -112,14 +111,10 @@ TEST(SimBadInput, AFullDiskLeavesTheEarlierFilesAsTheyWere) {
   std::map<std::string, std::string> before;
   for (const char* file : {"T_Base.dat", "T_Base.run", "T_Base.out", "T.sum"}) before[file] = ReadAll(file);
 
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit old{};
-  ::getrlimit(RLIMIT_FSIZE, &old);
-  rlimit small = old;
-  small.rlim_cur = 100;
-  ::setrlimit(RLIMIT_FSIZE, &small);
-  const std::string reply = sim::RunScenarios("T.tpj", "{Base}", "SEED2");
-  ::setrlimit(RLIMIT_FSIZE, &old);
+  const std::string reply = [] {
+    const FullDisk full;
+    return sim::RunScenarios("T.tpj", "{Base}", "SEED2");
+  }();
 
   EXPECT_TRUE(reply.starts_with("Error: scenario \"Base\": ")) << reply;
   for (const auto& [file, text] : before) EXPECT_EQ(ReadAll(file), text) << file;
