@@ -6,6 +6,7 @@
 #include "results/SummaryTable.h"
 #include "results/TableExport.h"
 #include "ResultsData.h"
+#include "support/TestFolder.h"
 
 namespace tamsic {
 namespace {
@@ -15,13 +16,14 @@ using resultstest::DatText;
 class SummaryTableTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    const auto folder = std::filesystem::path(::testing::TempDir());
     for (auto* scenario : {&base, &managed}) {
       const std::string name = scenario->Text(F("txtSceneName"));
-      resultstest::Write(folder / (name + ".dat"), DatText(name, ShapeOf(*scenario).blocks(), 2));
-      data.push_back(LoadYearlyData(folder / (name + ".dat"), *scenario));
+      resultstest::Write(folder.path() / (name + ".dat"), DatText(name, ShapeOf(*scenario).blocks(), 2));
+      data.push_back(LoadYearlyData(folder.path() / (name + ".dat"), *scenario));
     }
   }
+  // A folder of each test's own: ctest runs the tests side by side.
+  test::TestFolder folder;
   std::vector<TableScenario> Sources() {
     return {{"Base", &data[0], BlockTitles(base, strings)}, {"Managed, K+", &data[1], BlockTitles(managed, strings)}};
   }

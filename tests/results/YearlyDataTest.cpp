@@ -8,6 +8,7 @@
 #include "results/ResultVariables.h"
 #include "results/YearlyData.h"
 #include "ResultsData.h"
+#include "support/TestFolder.h"
 
 namespace tamsic {
 namespace {
@@ -17,10 +18,10 @@ using resultstest::DatText;
 
 class YearlyDataTest : public ::testing::Test {
  protected:
-  std::filesystem::path file = std::filesystem::path(::testing::TempDir()) / "Project_Base.dat";
+  // A folder of each test's own: ctest runs the tests side by side.
+  test::TestFolder folder;
+  std::filesystem::path file = folder.path() / "Project_Base.dat";
   clsScenario scenario = resultstest::Scenario("Base", 2, 3);
-
-  void SetUp() override { std::filesystem::remove(file); }
 
   void Write(const std::string& text) { resultstest::Write(file, text); }
   // The message of the FileError the load throws.
