@@ -34,6 +34,14 @@ std::atomic<bool> interrupted{false};
 
 extern "C" void OnInterrupt(int) { interrupted = true; }
 
+struct WorkFileRemoval {
+  std::filesystem::path file;
+  ~WorkFileRemoval() {
+    std::error_code ignored;
+    std::filesystem::remove(file, ignored);
+  }
+};
+
 class NoCursor : public IBusyCursor {
  public:
   void setBusy(bool) override {}
@@ -150,6 +158,9 @@ int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageB
   if (list.empty()) return 1;
   const std::filesystem::path projectFolder = std::filesystem::absolute(arguments.project).parent_path();
   basSimulation::RunRequest request{CreateWorkFile(ProgramFolder()), list, EngineOptions(opened->document, arguments), ""};
+  // The desktop program keeps the work copy of a failed run for a look; here
+  // the reply is printed and the project file is at hand, so none is kept.
+  const WorkFileRemoval removal{request.workFile};
   SaveProject(opened->document, request.workFile.string(), messages);
   std::filesystem::current_path(projectFolder);
   LibraryEngine engine;

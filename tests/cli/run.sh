@@ -8,6 +8,8 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 failures=0
 fail() { echo "FAIL: $1"; cat "$work/err"; failures=$((failures + 1)); }
+temp="$(dirname "$cli")/Temp"
+before=$(ls "$temp" 2>/dev/null | wc -l)
 
 sed 's/^NumIter="500"/NumIter="6"/; s/^NumYears="100"/NumYears="10"/' "$examples/Koalas.tpj" > "$work/K.tpj"
 "$cli" run "$work/K.tpj" --scenario Managed --seed 3 --threads 2 > "$work/out" 2> "$work/err" || fail "run"
@@ -38,6 +40,9 @@ kill -TERM "$pid"
 wait "$pid"
 code=$?
 [ "$code" -eq 1 ] && grep -q 'cancelled' "$work/long.err" || fail "SIGTERM stops the run (exit $code)"
+
+# Failed and cancelled runs too leave no work copy of the project behind.
+[ "$(ls "$temp" 2>/dev/null | wc -l)" -eq "$before" ] || fail "work files left in $temp"
 
 [ "$failures" -eq 0 ] && echo "cli run: all passed"
 exit "$failures"
