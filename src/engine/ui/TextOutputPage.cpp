@@ -215,13 +215,11 @@ void TextOutputPage::showReport() {
 }
 
 // The engine writes both reports on a check-in with flag 1.
-bool TextOutputPage::makeReportIfMissing(const std::filesystem::path& report) {
-  if (std::filesystem::exists(report)) return true;
+void TextOutputPage::makeReportIfMissing(const std::filesystem::path& report) {
+  if (std::filesystem::exists(report)) return;
   const auto reply = checkIn_(static_cast<std::size_t>(cboScenario_->currentIndex() + 1));
-  if (!reply) return false;
-  if (!reply->starts_with("Message"))
+  if (reply && !reply->starts_with("Message"))
     program_.messages.show({tamsic::Cp1252ToUtf8(*reply), "Tamsic.dll", tamsic::MsgIcon::Critical});
-  return reply->starts_with("Message");
 }
 
 void TextOutputPage::fillPopulations() {

@@ -42,7 +42,7 @@ class TextOutputPage : public QWidget {
   QWidget* buildReportRow();
   QWidget* buildOtherOutputRow();
   void showReport();
-  bool makeReportIfMissing(const std::filesystem::path& file);
+  void makeReportIfMissing(const std::filesystem::path& file);
   void fillPopulations();
   void goToPopulation(int index);
   void find();

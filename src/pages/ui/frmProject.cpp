@@ -297,40 +297,37 @@ std::optional<std::string> frmProject::stableAgeDistribution(tamsic::clsScenario
 }
 
 // The engine writes the reports into the current directory.
-std::optional<std::string> frmProject::checkIn(std::size_t number) {
+// The engine reads the scenario from a saved copy of the project and writes
+// into the current directory. A copy that a check-in refused is kept for a
+// look; a data reply has no such use.
+std::optional<std::string> frmProject::askAboutSavedCopy(std::size_t number, const EngineQuestion& question,
+                                                         bool keepRefusedCopy) {
   inputPages_->commitPending();
   const auto work = saveWorkFile(state_.document);
   if (!work) return std::nullopt;
   QDir::setCurrent(QString::fromStdString(tamsic::ResultsFolder(state_)));
+  std::optional<std::string> reply;
   try {
-    std::string reply = engine_.tcheckin(work->string() + "{" + std::to_string(number) + "}", 1);
-    if (reply.starts_with("Message")) {
-      std::error_code ignored;
-      std::filesystem::remove(*work, ignored);
-    }
-    return reply;
+    reply = question(work->string() + "{" + std::to_string(number) + "}");
   } catch (const std::exception& error) {
     program_.messages.show(program_.messages.text(tamsic::msg::kUnableToRunSimulation) + "\n\n" + error.what(),
                            tamsic::msg::kError, tamsic::MsgIcon::Critical);
-    return std::nullopt;
   }
+  if (!keepRefusedCopy || (reply && reply->starts_with("Message"))) {
+    std::error_code ignored;
+    std::filesystem::remove(*work, ignored);
+  }
+  return reply;
+}
+
+std::optional<std::string> frmProject::checkIn(std::size_t number) {
+  return askAboutSavedCopy(number, [this](const std::string& text) { return engine_.tcheckin(text, 1); }, true);
 }
 
 // detGraphValues loads the scenario named by a check-in text before it projects.
 std::optional<std::string> frmProject::deterministicValues(std::size_t number) {
-  inputPages_->commitPending();
-  const auto work = saveWorkFile(state_.document);
-  if (!work) return std::nullopt;
-  std::optional<std::string> reply;
-  try {
-    reply = engine_.detGraphValues(work->string() + "{" + std::to_string(number) + "}", 0);
-  } catch (const std::exception& error) {
-    program_.messages.show(program_.messages.text(tamsic::msg::kUnableToRunSimulation) + "\n\n" + error.what(),
-                           tamsic::msg::kError, tamsic::MsgIcon::Critical);
-  }
-  std::error_code ignored;
-  std::filesystem::remove(*work, ignored);
-  return reply;
+  return askAboutSavedCopy(number, [this](const std::string& text) { return engine_.detGraphValues(text, 0); },
+                           false);
 }
 
 // The run dialog chooses; the project goes to the engine as a saved copy, and

@@ -5,6 +5,7 @@
 // core's save flow.
 #include <QWidget>
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include "engine/Engine.h"
@@ -71,6 +72,9 @@ class frmProject : public QWidget {
   std::optional<std::string> stableAgeDistribution(tamsic::clsScenario& record, std::size_t number);
   // The project as it stands saved to a fresh work file for the engine; nothing when that failed (the user was told).
   std::optional<std::filesystem::path> saveWorkFile(const tamsic::ProjectDocument& document);
+  using EngineQuestion = std::function<std::string(const std::string& checkInText)>;
+  std::optional<std::string> askAboutSavedCopy(std::size_t number, const EngineQuestion& question,
+                                               bool keepRefusedCopy);
   // tcheckin with flag 1: the engine writes the scenario's input and deterministic reports.
   std::optional<std::string> checkIn(std::size_t number);
   // The engine's deterministic projection of N for the scenario, from a saved copy.
