@@ -7,7 +7,6 @@
 #include <QLineSeries>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -19,7 +18,6 @@
 #include "app/ui/mdiMain.h"
 #include "engine/OutputFiles.h"
 #include "engine/ui/TextOutputPage.h"
-#include "engine/ui/frmFlags.h"
 #include "engine/ui/frmRunProgress.h"
 #include "engine/ui/frmSimRun.h"
 #include "files/ProjectFile.h"
@@ -221,21 +219,6 @@ class RunAndResultsTest : public QObject {
     QVERIFY(!project->state().Changed());
   }
 
-  void specialOptionsKeepTheirStateUntilOk() {
-    TestProgram t;
-    tamsic::SpecialOptions accepted;
-    accepted.checked[0] = 1;
-    frmFlags dialog(t.program, accepted);
-    QCOMPARE(dialog.Flags(), QString("S"));
-    dialog.findChild<QCheckBox*>("chkAdditional6")->setChecked(true);
-    dialog.findChild<QLineEdit*>("txtAdditional6")->setText(" 5 ");
-    dialog.findChild<QLineEdit*>("txtUndoc")->setText(" Q ");
-    QCOMPARE(dialog.Flags(), QString("S;Y5;Q"));
-    QCOMPARE(dialog.options().option6Text, std::string(" 5 "));
-    // A dialog opened again on the accepted state shows it, whatever was left unconfirmed.
-    frmFlags again(t.program, accepted);
-    QCOMPARE(again.Flags(), QString("S"));
-  }
 };
 
 QTEST_MAIN(RunAndResultsTest)
