@@ -7,12 +7,28 @@ namespace tamsic::sim {
 
 namespace {
 
-// Deviates of all populations correlated by `rho`: a shared part and an own part.
+// Deviates of all populations correlated by `rho`. A correlation of 0 or
+// more is a shared part and an own part. A negative one takes from each
+// population's own draw a share of the mean draw, which makes every pair
+// correlated by `rho`; n populations cannot all be more opposed than
+// -1/(n-1), so a correlation below that is taken as that bound.
 void Correlated(Random& random, double rho, std::vector<double>& out) {
-  const double shared = random.normal();
-  const double a = std::sqrt(rho);
-  const double b = std::sqrt(1.0 - rho);
-  for (double& z : out) z = a * shared + b * random.normal();
+  if (rho >= 0.0 || out.size() < 2) {
+    const double shared = random.normal();
+    const double a = std::sqrt(std::max(rho, 0.0));
+    const double b = std::sqrt(1.0 - std::max(rho, 0.0));
+    for (double& z : out) z = a * shared + b * random.normal();
+    return;
+  }
+  const double n = static_cast<double>(out.size());
+  rho = std::max(rho, -1.0 / (n - 1.0));
+  double mean = 0.0;
+  for (double& e : out) mean += (e = random.normal()) / n;
+  // z = a e + c mean has variance 1 and pairwise covariance rho when
+  // a^2 = 1 - rho and c^2 + 2ac = n rho.
+  const double a = std::sqrt(1.0 - rho);
+  const double c = -a + std::sqrt(std::max(a * a + n * rho, 0.0));
+  for (double& z : out) z = a * z + c * mean;
 }
 
 double Capacity(const PopulationModel& p, const YearConditions& year, int currentYear, SimContext& context) {

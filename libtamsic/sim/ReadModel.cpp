@@ -12,9 +12,6 @@ namespace tamsic::sim {
 
 namespace {
 
-constexpr int kMaxPopulations = 50;
-constexpr int kMaxAge = 1000;
-
 Mating ReadMating(const CellReader& in) {
   const std::pair<const char*, Mating> systems[] = {
       {"optMPHLQ_0", Mating::Monogamous},        {"optMPHLQ_1", Mating::Polygamous},
@@ -37,7 +34,7 @@ std::vector<Rate> ReadDistribution(const CellReader& in, Field grid, int count) 
   double sum = 0.0;
   bool constant = true;
   for (int row = 1; row <= count; ++row) {
-    percents.push_back(in.GridRate(grid, static_cast<std::size_t>(row), 1, kPercent, 0.0));
+    percents.push_back(in.GridRate(grid, static_cast<std::size_t>(row), 1, 0.0));
     constant = constant && percents.back().isConstant();
     sum += percents.back().constant();
   }
@@ -48,32 +45,32 @@ std::vector<Rate> ReadDistribution(const CellReader& in, Field grid, int count) 
 }
 
 void ReadSettings(const CellReader& in, Model& m) {
-  m.iterations = in.Whole(F("txtNumIter"), 1, 1000000, -1);
-  m.years = in.Whole(F("txtNumYear"), 1, 100000, -1);
+  m.iterations = in.Whole(F("txtNumIter"), -1);
+  m.years = in.Whole(F("txtNumYear"), -1);
   if (m.iterations < 0) throw SimError("NumIter: the number of iterations is empty");
   if (m.years < 0) throw SimError("NumYears: the number of years is empty");
-  m.populations = in.Whole(F("txtNumPop"), 0, kMaxPopulations, 0);
+  m.populations = in.Whole(F("txtNumPop"), 0);
   if (m.populations < 1) throw SimError("NumPop: a scenario needs at least one population (1 .. 50)");
   m.criticalSizeExtinction = in.Truth(F("optExtinctDef_1")) || m.options.declineIsExtinction;
-  m.criticalSize = m.criticalSizeExtinction ? in.Whole(F("txtExtinctN"), 0, 100000000, 0) : 0;
+  m.criticalSize = m.criticalSizeExtinction ? in.Whole(F("txtExtinctN"), 0) : 0;
 }
 
 void ReadSpecies(const CellReader& in, Model& m) {
   m.inbreedingDepression = in.Checked(F("chkDepress"));
   if (m.inbreedingDepression) {
-    m.lethalEquivalents = in.Number(F("txtLethalEquiv"), {0.0, 100.0}, 0.0);
-    m.percentLethal = in.Number(F("txtPercentLethal"), kPercent, 0.0);
+    m.lethalEquivalents = in.Number(F("txtLethalEquiv"), 0.0);
+    m.percentLethal = in.Number(F("txtPercentLethal"), 0.0);
   }
   m.concordance = in.Checked(F("chkEVConcord"));
-  m.correlation = in.Number(F("txtEV"), {0.0, 1.0}, 0.0);
+  m.correlation = in.Number(F("txtEV"), 0.0);
   m.dispersing[kFemale] = in.Checked(F("chkDispFemales"));
   m.dispersing[kMale] = in.Checked(F("chkDispMales"));
   if (m.populations > 1 && (m.dispersing[kFemale] || m.dispersing[kMale])) {
-    m.dispersalYoung = in.Whole(F("txtDispYoung"), 0, kMaxAge, 0);
-    m.dispersalOld = in.Whole(F("txtDispOld"), 0, kMaxAge, kMaxAge);
-    m.dispersalSurvival = in.TextRate(F("txtPercentDispSurvive"), kPercent, 100.0);
+    m.dispersalYoung = in.Whole(F("txtDispYoung"), 0);
+    m.dispersalOld = in.Whole(F("txtDispOld"), kMaxAge);
+    m.dispersalSurvival = in.TextRate(F("txtPercentDispSurvive"), 100.0);
     if (!report::Trim(in.scenario().Text(F("txtDensDispersal"))).empty()) {
-      const Rate modifier = in.TextRate(F("txtDensDispersal"), kNonNegative, 0.0);
+      const Rate modifier = in.TextRate(F("txtDensDispersal"), 0.0);
       if (!modifier.isConstant()) m.dispersalModifier = modifier;
       else m.dispersalMinimum = modifier.constant();
     }
@@ -82,16 +79,16 @@ void ReadSpecies(const CellReader& in, Model& m) {
 
 void ReadReproduction(const CellReader& in, Model& m) {
   m.mating = ReadMating(in);
-  m.firstBreeding[kFemale] = in.Whole(F("txtAgeReproF"), 1, kMaxAge, -1);
-  m.firstBreeding[kMale] = m.sexual() ? in.Whole(F("txtAgeReproM"), 1, kMaxAge, -1) : m.firstBreeding[kFemale];
+  m.firstBreeding[kFemale] = in.Whole(F("txtAgeReproF"), -1);
+  m.firstBreeding[kMale] = m.sexual() ? in.Whole(F("txtAgeReproM"), -1) : m.firstBreeding[kFemale];
   if (m.firstBreeding[kFemale] < 0) throw SimError("AgeReproF: the age of first reproduction is empty");
   if (m.firstBreeding[kMale] < 0) throw SimError("AgeReproM: the age of first reproduction is empty");
-  m.maxAge = in.Whole(F("txtMaxAgeRepro"), 1, kMaxAge, -1);
+  m.maxAge = in.Whole(F("txtMaxAgeRepro"), -1);
   if (m.maxAge < std::max(m.firstBreeding[kFemale], m.firstBreeding[kMale]))
     throw SimError("AgeRepro: the maximum age must be at least the age of first reproduction");
-  m.maxBroods = in.Whole(F("txtMaxLitters"), 1, 100, 1);
-  m.maxProgeny = in.Whole(F("txtMaxProgeny"), 1, 1000, 1);
-  m.sexRatio = in.TextRate(F("txtSexRatio"), kPercent, 50.0);
+  m.maxBroods = in.Whole(F("txtMaxLitters"), 1);
+  m.maxProgeny = in.Whole(F("txtMaxProgeny"), 1);
+  m.sexRatio = in.TextRate(F("txtSexRatio"), 50.0);
   m.broodByMeanSD = !in.Truth(F("optUseMean_1"));
   if (!m.broodByMeanSD) m.progenyPercent = ReadDistribution(in, F("gridRepRates3"), m.maxProgeny + 1);
   m.broodPercent = m.maxBroods == 1 ? std::vector<Rate>{Rate::Number(100.0)}
@@ -101,6 +98,7 @@ void ReadReproduction(const CellReader& in, Model& m) {
 }  // namespace
 
 Model ReadModel(const clsScenario& scenario, const std::filesystem::path& folder, const Options& options) {
+  CheckInputs(scenario);
   const CellReader in(scenario, folder);
   Model m;
   m.options = options;
@@ -109,9 +107,9 @@ Model ReadModel(const clsScenario& scenario, const std::filesystem::path& folder
   ReadSpecies(in, m);
   ReadReproduction(in, m);
   m.startStable = !in.Truth(F("optStartWith_1"));
-  m.neutralLoci = in.Whole(F("txtGenMgtNumNeutralLoci"), 1, 1000, 1);
-  const int catastrophes = in.Whole(F("txtNumCatast"), 0, 100, 0);
-  m.userVariables = std::max(in.Whole(F("txtNumPopStateVars"), 0, 10, 0), in.Whole(F("txtNumGlobalVars"), 0, 10, 0));
+  m.neutralLoci = in.Whole(F("txtGenMgtNumNeutralLoci"), 1);
+  const int catastrophes = in.Whole(F("txtNumCatast"), 0);
+  m.userVariables = std::max(in.Whole(F("txtNumPopStateVars"), 0), in.Whole(F("txtNumGlobalVars"), 0));
   for (int p = 0; p < m.populations; ++p) m.pops.push_back(ReadPopulation(in, m, p, catastrophes));
   m.needsCounts = in.countsUsed();
   return m;

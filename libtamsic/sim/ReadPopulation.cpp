@@ -1,5 +1,8 @@
 #include "sim/ReadPopulation.h"
 
+#include <algorithm>
+
+#include "model/TextSplit.h"
 #include "sim/SimError.h"
 
 namespace tamsic::sim {
@@ -8,11 +11,7 @@ namespace {
 
 using Row = std::size_t;
 
-std::string Trimmed(std::string text) {
-  const auto first = text.find_first_not_of(" \t");
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
+std::string Trimmed(const std::string& text) { return std::string(Trim(text)); }
 
 bool Yes(const CellReader& in, Field grid, Row row, Row col) {
   const std::string text = Trimmed(in.GridText(grid, row, col));
@@ -24,8 +23,8 @@ void ReadMortality(const CellReader& in, const Model& m, Row row, int sex, Popul
   const Field grid = sex == kFemale ? F("gridMortFemales") : F("gridMortMales");
   for (int age = 0; age <= m.firstBreeding[sex]; ++age) {
     const Row col = static_cast<Row>(2 * age + 1);
-    p.mortality[sex].push_back(in.GridRate(grid, row, col, kPercent, 0.0));
-    p.mortalitySD[sex].push_back(in.GridRate(grid, row, col + 1, kNonNegative, 0.0));
+    p.mortality[sex].push_back(in.GridRate(grid, row, col, 0.0));
+    p.mortalitySD[sex].push_back(in.GridRate(grid, row, col + 1, 0.0));
   }
 }
 
@@ -35,45 +34,45 @@ void ReadCatastrophes(const CellReader& in, Row row, int count, PopulationModel&
     Catastrophe cat;
     const std::string kind = Trimmed(in.GridText(F("gridCatastrophes1"), row, col));
     if (kind != "Global" && kind != "Local" && !kind.empty())
-      throw SimError(in.Where(F("gridCatastrophes1"), row, col) + ": \"" + kind + "\" is neither Global nor Local");
+      throw InputError({in.Where(F("gridCatastrophes1"), row, col), Fault::NotAPlace, PlaceCell()});
     cat.global = kind == "Global";
-    cat.frequency = in.GridRate(F("gridCatastrophes1"), row, col + 1, kPercent, 0.0);
-    cat.reproduction = in.GridRate(F("gridCatastrophes2"), row, col, kNonNegative, 1.0);
-    cat.survival = in.GridRate(F("gridCatastrophes2"), row, col + 1, kNonNegative, 1.0);
+    cat.frequency = in.GridRate(F("gridCatastrophes1"), row, col + 1, 0.0);
+    cat.reproduction = in.GridRate(F("gridCatastrophes2"), row, col, 1.0);
+    cat.survival = in.GridRate(F("gridCatastrophes2"), row, col + 1, 1.0);
     p.catastrophes.push_back(std::move(cat));
   }
 }
 
 void ReadInitial(const CellReader& in, const Model& m, Row row, PopulationModel& p) {
   if (m.startStable) {
-    p.initialSize = in.GridWhole(F("gridInitPopStable"), row, 1, 0, 100000000);
+    p.initialSize = in.GridWhole(F("gridInitPopStable"), row, 1);
     return;
   }
   for (int sex : {kFemale, kMale}) {
     const Field grid = sex == kFemale ? F("gridInitPopFemale") : F("gridInitPopMale");
     for (int age = 1; age <= m.maxAge; ++age)
-      p.initial[sex].push_back(in.GridWhole(grid, row, static_cast<Row>(age), 0, 100000000));
+      p.initial[sex].push_back(in.GridWhole(grid, row, static_cast<Row>(age)));
   }
 }
 
 void ReadCapacity(const CellReader& in, Row col, PopulationModel& p) {
-  p.capacity = in.GridRate(F("gridCarryingCap1"), 1, col, kNonNegative, 0.0);
-  p.capacitySD = in.GridRate(F("gridCarryingCap1"), 2, col, kNonNegative, 0.0);
+  p.capacity = in.GridRate(F("gridCarryingCap1"), 1, col, 0.0);
+  p.capacitySD = in.GridRate(F("gridCarryingCap1"), 2, col, 0.0);
   p.trend = Yes(in, F("gridCarryingCap2"), 1, col);
   if (!p.trend) return;
-  p.trendYears = in.GridWhole(F("gridCarryingCap2"), 2, col, 0, 1000000);
-  p.trendPercent = in.GridRate(F("gridCarryingCap2"), 3, col, {-100.0, 1e6}, 0.0);
+  p.trendYears = in.GridWhole(F("gridCarryingCap2"), 2, col);
+  p.trendPercent = in.GridRate(F("gridCarryingCap2"), 3, col, 0.0);
 }
 
 Schedule ReadSchedule(const CellReader& in, Field grid, Row col) {
   Schedule s;
   s.active = Yes(in, grid, 1, col);
   if (!s.active) return s;
-  s.first = in.GridWhole(grid, 2, col, 0, 1000000);
-  s.last = in.GridWhole(grid, 3, col, 0, 1000000);
-  s.interval = in.GridWhole(grid, 4, col, 0, 1000000);
+  s.first = in.GridWhole(grid, 2, col);
+  s.last = in.GridWhole(grid, 3, col);
+  s.interval = in.GridWhole(grid, 4, col);
   if (s.interval < 1) s.interval = 1;
-  const Rate criterion = in.GridRate(grid, 5, col, {-1e300, 1e300}, 1.0);
+  const Rate criterion = in.GridRate(grid, 5, col, 1.0);
   if (!criterion.isConstant() || criterion.constant() == 0.0) s.criterion = criterion;
   return s;
 }
@@ -82,7 +81,7 @@ Schedule ReadSchedule(const CellReader& in, Field grid, Row col) {
 std::vector<Rate> ReadAgeClasses(const CellReader& in, Field grid, Row row, int firstBreeding) {
   std::vector<Rate> counts;
   for (int c = 1; c <= firstBreeding; ++c)
-    counts.push_back(in.GridRate(grid, row, static_cast<Row>(c), kNonNegative, 0.0));
+    counts.push_back(in.GridRate(grid, row, static_cast<Row>(c), 0.0));
   return counts;
 }
 
@@ -104,8 +103,9 @@ void ReadDispersal(const CellReader& in, const Model& m, Row row, PopulationMode
   double total = 0.0;
   for (int q = 0; q < m.populations; ++q) {
     const Row col = static_cast<Row>(q + 1);
-    p.dispersal.push_back(col == row ? Rate::Number(0.0) : in.GridRate(F("gridDispRates"), row, col, kPercent, 0.0));
-    total += p.dispersal.back().isConstant() ? p.dispersal.back().constant() : 0.0;
+    p.dispersal.push_back(col == row ? Rate::Number(0.0) : in.GridRate(F("gridDispRates"), row, col, 0.0));
+    // Rates below 0 are no dispersal, as where functions are used.
+    total += p.dispersal.back().isConstant() ? std::clamp(p.dispersal.back().constant(), 0.0, 100.0) : 0.0;
   }
   if (total > 100.0)
     throw SimError("DispRates, population " + std::to_string(row) + ": the rates out of the population add up to " +
@@ -120,17 +120,17 @@ PopulationModel ReadPopulation(const CellReader& in, const Model& m, int pop, in
   const Grid& labels = in.scenario().GetGrid(F("gridPopLabels"));
   p.label = row < labels.rows() && labels.cols() > 1 ? Trimmed(labels.at(row, 1)) : std::string();
   if (p.label.empty()) p.label = "Population " + std::to_string(pop + 1);
-  p.breeding = in.GridRate(F("gridRepRates1"), row, 1, kPercent, 0.0);
-  p.breedingSD = in.GridRate(F("gridRepRates1"), row, 2, kNonNegative, 0.0);
+  p.breeding = in.GridRate(F("gridRepRates1"), row, 1, 0.0);
+  p.breedingSD = in.GridRate(F("gridRepRates1"), row, 2, 0.0);
   if (m.broodByMeanSD) {
-    p.broodMean = in.GridRate(F("gridRepRates2"), row, 1, {0.0, double(m.maxProgeny)}, 0.0);
-    p.broodSD = in.GridRate(F("gridRepRates2"), row, 2, kNonNegative, 0.0);
+    p.broodMean = in.GridRate(F("gridRepRates2"), row, 1, 0.0);
+    p.broodSD = in.GridRate(F("gridRepRates2"), row, 2, 0.0);
   }
   ReadMortality(in, m, row, kFemale, p);
   if (m.sexual()) ReadMortality(in, m, row, kMale, p);
   else p.mortality[kMale] = p.mortality[kFemale], p.mortalitySD[kMale] = p.mortalitySD[kFemale];
   ReadCatastrophes(in, row, catastrophes, p);
-  p.malesInPool = m.sexual() ? in.GridRate(F("gridDegMonop"), 1, row, kPercent, 100.0) : Rate::Number(100.0);
+  p.malesInPool = m.sexual() ? in.GridRate(F("gridDegMonop"), 1, row, 100.0) : Rate::Number(100.0);
   ReadInitial(in, m, row, p);
   ReadCapacity(in, row, p);
   ReadManagement(in, m, row, p);

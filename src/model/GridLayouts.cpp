@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "model/InputRules.h"
+
 namespace tamsic {
 
 namespace {
@@ -80,80 +82,120 @@ Headings CatastropheColumns(int count, const std::string& first, const std::stri
   return columns;
 }
 
+int CountOf(Count count, const LayoutCounts& counts) {
+  switch (count) {
+    case Count::None: return 0;
+    case Count::PopStateVars: return counts.popStateVars;
+    case Count::GlobalVars: return counts.globalVars;
+    case Count::IndivStateVars: return counts.indivStateVars;
+    case Count::Catastrophes: return counts.catastrophes;
+    case Count::MaxAge: return counts.maxAge;
+    case Count::MaxLitters: return counts.maxLitters;
+    case Count::MaxProgeny: return counts.maxProgeny;
+  }
+  return 0;
+}
+
+int FirstOffspringAge(Sex sex, const LayoutCounts& counts) {
+  return sex == Sex::Female ? counts.ageReproF : counts.ageReproM;
+}
+
+// The headings of the lines that are not populations.
+Headings LineHeadings(const GridDescription& d, const LayoutCounts& counts) {
+  switch (d.lines) {
+    case Lines::MortalityPairs: return MortalityColumns(FirstOffspringAge(d.sex, counts));
+    case Lines::Ages: return AgeColumns(std::string(d.line[0].heading), counts.maxAge);
+    case Lines::AgeClasses: return AgeClassColumns(FirstOffspringAge(d.sex, counts));
+    case Lines::CatastrophePairs:
+      return CatastropheColumns(counts.catastrophes, std::string(d.line[0].heading), std::string(d.line[1].heading));
+    case Lines::Fixed:
+    case Lines::Counted: break;
+  }
+  Headings headings;
+  for (const GridLine& line : d.line) headings.emplace_back(line.heading);
+  return headings;
+}
+
+Grid PopulationLabels(const GridDescription& d, const LayoutCounts& counts) {
+  Headings columns{std::string(d.line[0].heading)};
+  for (int v = 1; v <= counts.popStateVars; ++v) columns.push_back(Numbered(std::string(d.prefix), v));
+  Grid grid = PerPopulationRows(counts, columns);
+  for (std::size_t p = 0; p < counts.populations.size(); ++p) grid.at(p + 1, 0) = std::to_string(p + 1);
+  return grid;
+}
+
+Grid CatastropheLabels(const GridDescription& d, const LayoutCounts& counts) {
+  Grid grid(static_cast<std::size_t>(counts.catastrophes), 2);
+  for (int c = 0; c < counts.catastrophes; ++c) grid.at(c, 0) = Numbered(std::string(d.line[0].heading) + " ", c + 1);
+  return grid;
+}
+
 }  // namespace
 
 Grid LayoutGrid(Field grid, const LayoutCounts& counts) {
-  const std::string member(Describe(grid).member);
-  const int pops = static_cast<int>(counts.populations.size());
-  if (member == "gridPopLabels") {
-    Headings columns{"Label"};
-    for (int v = 1; v <= counts.popStateVars; ++v) columns.push_back(Numbered("PS", v));
-    Grid g = PerPopulationRows(counts, columns);
-    for (int p = 0; p < pops; ++p) g.at(p + 1, 0) = std::to_string(p + 1);
-    return g;
+  const GridDescription& d = GridOf(grid);
+  switch (d.shape) {
+    case GridShape::Notes: return Grid(14, 11);
+    case GridShape::PopulationLabels: return PopulationLabels(d, counts);
+    case GridShape::StateVariables:
+      return StateVariables(CountOf(d.count, counts), std::string(d.prefix), LineHeadings(d, counts));
+    case GridShape::PopulationRows: return PerPopulationRows(counts, LineHeadings(d, counts));
+    case GridShape::PopulationColumns: return PerPopulationColumns(counts, LineHeadings(d, counts));
+    case GridShape::DispersalMatrix: return PerPopulationRows(counts, counts.populations);
+    case GridShape::Distribution:
+      return Distribution(d.first, CountOf(d.count, counts), std::string(d.line[0].heading));
+    case GridShape::CatastropheLabels: return CatastropheLabels(d, counts);
   }
-  if (member == "gridGlobalVars") return StateVariables(counts.globalVars, "GS", {"Function"});
-  if (member == "gridIndividualStateParams")
-    return StateVariables(counts.indivStateVars, "IS", {"Name", "Init fn", "Birth fn", "Transition fn"});
-  if (member == "gridDispRates") return PerPopulationRows(counts, counts.populations);
-  if (member == "gridReproSys")
-    return PerPopulationColumns(counts, {"Density dependent?", "% Breeding at Low Density, P(0)",
-                                         "% Breeding at Carrying Capacity, P(K)", "Allee Parameter, A",
-                                         "Steepness Parameter, B"});
-  if (member == "gridRepRates1") return PerPopulationRows(counts, {"% Adult Females Breeding", "EV in % Breeding"});
-  if (member == "gridRepRates2") return PerPopulationRows(counts, {"Mean progeny per brood", "SD"});
-  if (member == "gridRepRates3") return Distribution(0, counts.maxProgeny, "Offspring per brood");
-  if (member == "gridRepRates4") return Distribution(1, counts.maxLitters, "Broods per year");
-  if (member == "gridMortFemales") return PerPopulationRows(counts, MortalityColumns(counts.ageReproF));
-  if (member == "gridMortMales") return PerPopulationRows(counts, MortalityColumns(counts.ageReproM));
-  if (member == "gridCatastropheLabels") {
-    Grid g(static_cast<std::size_t>(counts.catastrophes), 2);
-    for (int c = 0; c < counts.catastrophes; ++c) g.at(c, 0) = "Catastrophe " + std::to_string(c + 1);
-    return g;
-  }
-  if (member == "gridCatastrophes1")
-    return PerPopulationRows(counts, CatastropheColumns(counts.catastrophes, "Global/Local", "Frequency %"));
-  if (member == "gridCatastrophes2")
-    return PerPopulationRows(counts, CatastropheColumns(counts.catastrophes, "Reproduction", "Survival"));
-  if (member == "gridDegMonop")
-    return PerPopulationColumns(counts, {"% Males in Breeding Pool", "% Males Successfully Siring Offspring",
-                                         "Mean Offspring per Successful Sire"});
-  if (member == "gridInitPopStable") return PerPopulationRows(counts, {"Initial population size"});
-  if (member == "gridInitPopFemale") return PerPopulationRows(counts, AgeColumns("Females Age", counts.maxAge));
-  if (member == "gridInitPopMale") return PerPopulationRows(counts, AgeColumns("Males Age", counts.maxAge));
-  if (member == "gridCarryingCap1") return PerPopulationColumns(counts, {"Carrying Capacity (K)", "SD in K Due to EV"});
-  if (member == "gridCarryingCap2")
-    return PerPopulationColumns(counts, {"Trend in K?", "Over how many years?", "% annual increase/decrease"});
-  if (member == "gridHarvest")
-    return PerPopulationColumns(counts, {"Population Harvested?", "First Year of Harvest", "Last Year of Harvest",
-                                         "Interval Between Harvests", "Optional Criterion for Harvest"});
-  if (member == "gridSuppl")
-    return PerPopulationColumns(counts, {"Population Supplemented?", "First Year of Supplement",
-                                         "Last Year of Supplement", "Interval Between Supplements",
-                                         "Optional Criterion for Supplement"});
-  if (member == "gridHarvestF" || member == "gridSupplF")
-    return PerPopulationRows(counts, AgeClassColumns(counts.ageReproF));
-  if (member == "gridHarvestM" || member == "gridSupplM")
-    return PerPopulationRows(counts, AgeClassColumns(counts.ageReproM));
-  if (member == "Notes") return Grid(14, 11);
-  throw std::logic_error(member + " is not a grid");
+  throw std::logic_error("a grid of no known shape");
 }
 
-bool PopulationsInColumns(Field grid) {
-  const std::string_view member = Describe(grid).member;
-  for (std::string_view name : {"gridReproSys", "gridDegMonop", "gridCarryingCap1", "gridCarryingCap2",
-                                "gridHarvest", "gridSuppl"})
-    if (member == name) return true;
-  return false;
-}
+bool PopulationsInColumns(Field grid) { return GridOf(grid).shape == GridShape::PopulationColumns; }
 
 Grid Relayout(const Grid& old, Field grid, const LayoutCounts& counts) {
   Grid fresh = LayoutGrid(grid, counts);
   // The catastrophe labels have no heading row: every row is a catastrophe.
-  const std::size_t firstRow = Describe(grid).member == "gridCatastropheLabels" ? 0 : 1;
+  const std::size_t firstRow = GridOf(grid).shape == GridShape::CatastropheLabels ? 0 : 1;
   for (std::size_t r = firstRow; r < std::min(old.rows(), fresh.rows()); ++r)
     for (std::size_t c = 1; c < std::min(old.cols(), fresh.cols()); ++c) fresh.at(r, c) = old.at(r, c);
   return fresh;
+}
+
+Grid DefaultGrid(Field grid, const LayoutCounts& counts) {
+  const GridDescription& d = GridOf(grid);
+  Grid fresh = LayoutGrid(grid, counts);
+  for (std::size_t line = 0; line < d.defaults.size(); ++line) {
+    const std::string value(d.defaults[line]);
+    switch (d.shape) {
+      case GridShape::PopulationLabels:
+      case GridShape::PopulationRows:
+        for (std::size_t r = 1; r < fresh.rows() && line + 1 < fresh.cols(); ++r) fresh.at(r, line + 1) = value;
+        break;
+      case GridShape::PopulationColumns:
+        for (std::size_t c = 1; c < fresh.cols() && line + 1 < fresh.rows(); ++c) fresh.at(line + 1, c) = value;
+        break;
+      case GridShape::Distribution:
+        if (line + 1 < fresh.rows()) fresh.at(line + 1, 1) = value;
+        break;
+      case GridShape::CatastropheLabels:
+        if (line < fresh.rows()) fresh.at(line, 1) = value;
+        break;
+      default: break;
+    }
+  }
+  return fresh;
+}
+
+std::vector<HeadingCaption> HeadingCaptions() {
+  std::vector<HeadingCaption> captions;
+  for (std::size_t i = 0; i < kFieldCount; ++i) {
+    const GridDescription* d = Describe(Field{i}).input.grid;
+    if (!d) continue;
+    const bool numbered = d->lines != Lines::Fixed && d->shape != GridShape::Distribution &&
+                          d->shape != GridShape::PopulationLabels;
+    for (const GridLine& line : d->line)
+      if (line.caption) captions.push_back({line.heading, line.caption, numbered});
+  }
+  return captions;
 }
 
 }  // namespace tamsic

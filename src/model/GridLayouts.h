@@ -1,8 +1,9 @@
 #pragma once
 // The shape and headings of every grid of a scenario for given counts of
-// populations, state variables, catastrophes, ages, broods and progeny. Row 0
-// is the heading row and column 0 the label column unless a grid says
-// otherwise; docs/grid-layouts.md shows each layout.
+// populations, state variables, catastrophes, ages, broods and progeny, made
+// from the grid's description. Row 0 is the heading row and column 0 the
+// label column unless a grid says otherwise; docs/grid-layouts.md shows each
+// layout.
 #include <string>
 #include <vector>
 
@@ -30,6 +31,19 @@ Grid LayoutGrid(Field grid, const LayoutCounts& counts);
 // Whether the grid has one column per population (settings in rows) rather
 // than one row per population.
 bool PopulationsInColumns(Field grid);
+
+// The grid of a new scenario: LayoutGrid with the description's values in it.
+Grid DefaultGrid(Field grid, const LayoutCounts& counts);
+
+// A heading of the grid layouts with the message number of its caption;
+// numbered headings are followed by a blank and a number ("Frequency % 2").
+struct HeadingCaption {
+  std::string_view heading;
+  int caption;
+  bool numbered;
+};
+// Every heading of every grid that has a caption of its own.
+std::vector<HeadingCaption> HeadingCaptions();
 
 // Gives the grid the shape and headings of LayoutGrid, keeping the values of
 // the cells that lie in both the old and the new shape.

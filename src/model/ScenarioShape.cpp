@@ -8,12 +8,13 @@ namespace tamsic {
 
 namespace {
 
-int Count(const clsScenario& scenario, Field field, int low, int high) {
-  return std::clamp(LeadingInt(scenario.Text(field)), low, high);
+// An empty or unfinished count shapes the grids as 0; the grids stop growing at the count's largest value.
+int CountIn(const clsScenario& scenario, Field field) {
+  return std::clamp(LeadingInt(scenario.Text(field)), 0, static_cast<int>(Describe(field).input.rule.high));
 }
 
 std::vector<std::string> PopulationLabels(const clsScenario& scenario) {
-  const int count = Count(scenario, F("txtNumPop"), 0, kMaxPopulations);
+  const int count = CountIn(scenario, F("txtNumPop"));
   const Grid& labels = scenario.GetGrid(F("gridPopLabels"));
   std::vector<std::string> names;
   for (int p = 1; p <= count; ++p) {
@@ -29,15 +30,15 @@ std::vector<std::string> PopulationLabels(const clsScenario& scenario) {
 LayoutCounts CountsOf(const clsScenario& scenario) {
   LayoutCounts counts;
   counts.populations = PopulationLabels(scenario);
-  counts.popStateVars = Count(scenario, F("txtNumPopStateVars"), 0, kMaxStateVars);
-  counts.globalVars = Count(scenario, F("txtNumGlobalVars"), 0, kMaxStateVars);
-  counts.indivStateVars = Count(scenario, F("txtNumIndividualStateParams"), 0, kMaxStateVars);
-  counts.catastrophes = Count(scenario, F("txtNumCatast"), 0, kMaxCatastrophes);
-  counts.ageReproF = Count(scenario, F("txtAgeReproF"), 0, kMaxAge);
-  counts.ageReproM = Count(scenario, F("txtAgeReproM"), 0, kMaxAge);
-  counts.maxAge = Count(scenario, F("txtMaxAgeRepro"), 0, kMaxAge);
-  counts.maxLitters = Count(scenario, F("txtMaxLitters"), 0, kMaxBroodsOrProgeny);
-  counts.maxProgeny = Count(scenario, F("txtMaxProgeny"), 0, kMaxBroodsOrProgeny);
+  counts.popStateVars = CountIn(scenario, F("txtNumPopStateVars"));
+  counts.globalVars = CountIn(scenario, F("txtNumGlobalVars"));
+  counts.indivStateVars = CountIn(scenario, F("txtNumIndividualStateParams"));
+  counts.catastrophes = CountIn(scenario, F("txtNumCatast"));
+  counts.ageReproF = CountIn(scenario, F("txtAgeReproF"));
+  counts.ageReproM = CountIn(scenario, F("txtAgeReproM"));
+  counts.maxAge = CountIn(scenario, F("txtMaxAgeRepro"));
+  counts.maxLitters = CountIn(scenario, F("txtMaxLitters"));
+  counts.maxProgeny = CountIn(scenario, F("txtMaxProgeny"));
   return counts;
 }
 

@@ -7,14 +7,6 @@
 
 namespace tamsic {
 
-// The largest counts the grids are built for. Larger numbers typed by the user
-// stay in their boxes as typed; the grids simply stop growing there.
-inline constexpr int kMaxPopulations = 50;
-inline constexpr int kMaxStateVars = 10;
-inline constexpr int kMaxCatastrophes = 25;
-inline constexpr int kMaxAge = 200;
-inline constexpr int kMaxBroodsOrProgeny = 100;
-
 // Population labels come from the label column of gridPopLabels; a population
 // without a label is headed by its number.
 LayoutCounts CountsOf(const clsScenario& scenario);

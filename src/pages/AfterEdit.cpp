@@ -1,7 +1,7 @@
 #include "pages/AfterEdit.h"
 
 #include "functions/BreedingFunction.h"
-#include "functions/CellValue.h"
+#include "model/CellValue.h"
 #include "model/ScenarioShape.h"
 #include "pages/InputChecks.h"
 

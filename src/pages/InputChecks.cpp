@@ -4,18 +4,12 @@
 #include <cstdio>
 
 #include "engine/EngineLibrary.h"
-#include "functions/CellValue.h"
+#include "model/CellValue.h"
 #include "model/TextNumbers.h"
 
 namespace tamsic {
 
 namespace {
-
-constexpr double kSmall = 32767;
-constexpr double kLarge = 60000;
-
-CellCheck Functions(double lower, double upper, bool decimals = true) { return {true, lower, upper, decimals}; }
-CellCheck Numbers(double lower, double upper, bool decimals = true) { return {false, lower, upper, decimals}; }
 
 void Refuse(const std::string& text, Messages& messages) {
   messages.show(text, msg::kWarning, MsgIcon::Critical);
@@ -25,6 +19,12 @@ std::string Fixed2(double value) {
   char buffer[64];
   std::snprintf(buffer, sizeof buffer, "%.2f", value);
   return buffer;
+}
+
+bool Blank(std::string_view text) { return text.find_first_not_of(" \t") == std::string_view::npos; }
+
+bool TakesFunctions(const ValueRule& rule) {
+  return rule.kind == ValueKind::Rate || rule.kind == ValueKind::WholeRate;
 }
 
 // The engine's verdict on a function; a missing engine is reported and the
@@ -42,89 +42,58 @@ bool FormulaRefused(std::string_view text, Messages& messages, Engine& engine) {
   }
 }
 
+// A value between 0 and 1 where a percent is expected is questioned, not refused.
+void QuestionProportion(std::string_view text, const ValueRule& rule, Messages& messages) {
+  const auto value = ExactNumber(text);
+  if (rule.high == 100 && value && *value > 0 && *value < 1)
+    messages.show("Value should be a percent (< 100), but appears to be entered as a proportion (< 1). "
+                  "Is this correct?",
+                  msg::kWarning, MsgIcon::None, MsgButtons::Ok);
+}
+
 }  // namespace
 
-std::optional<CellCheck> CellCheckFor(Field grid, std::size_t row) {
-  const std::string_view member = Describe(grid).member;
-  if (member == "gridDispRates" || member == "gridRepRates2") return Functions(-kSmall, kSmall);
-  if (member == "gridRepRates1" || member == "gridMortFemales" || member == "gridMortMales" ||
-      member == "gridCatastrophes1")
-    return Functions(0, 100);
-  if (member == "gridRepRates3" || member == "gridRepRates4") return Numbers(0, 100);
-  if (member == "gridCatastrophes2" || member == "gridCarryingCap1" || member == "gridReproSys")
-    return Functions(0, kLarge);
-  if (member == "gridDegMonop") {
-    if (row == 1) return Functions(0, 100);
-    if (row == 2) return Numbers(0, 100);
-    if (row == 3) return Numbers(0, kSmall);
-    return std::nullopt;
+bool TestCell(std::string_view text, const ValueRule& rule, const InputPlace& place, Messages& messages) {
+  ValueRule number = rule;
+  if (TakesFunctions(rule)) number.kind = rule.kind == ValueKind::WholeRate ? ValueKind::Whole : ValueKind::Number;
+  if (const auto fault = CheckValue(number, text)) {
+    Refuse(messages.text(msg::kInvalidInput) + "\r\n\r\n" + InputFault{place, *fault, rule}.Text(), messages);
+    return true;
   }
-  if (member == "gridInitPopStable" || member == "gridInitPopFemale" || member == "gridInitPopMale")
-    return Numbers(0, 30000, false);
-  if (member == "gridCarryingCap2") {
-    if (row == 2) return Numbers(0, 2000, false);
-    // A declining K is entered as a negative change; it cannot fall by more than all of it.
-    if (row == 3) return Numbers(-100, 100);
-    return std::nullopt;
-  }
-  if (member == "gridHarvest" || member == "gridSuppl") {
-    if (row >= 2 && row <= 4) return Numbers(0, kSmall, false);
-    if (row >= 5) return Functions(0, kSmall);
-    return std::nullopt;
-  }
-  if (member == "gridHarvestF" || member == "gridHarvestM" || member == "gridSupplF" || member == "gridSupplM")
-    return Functions(0, kSmall, false);
-  return std::nullopt;
+  QuestionProportion(text, rule, messages);
+  return false;
 }
 
-bool RangeTest(std::string_view text, double lower, double upper, bool decimals, Messages& messages) {
-  const auto value = ExactNumber(text);
-  if (!value || *value < lower || *value > upper) return false;
-  if (!decimals && std::trunc(*value) != *value) return false;
-  if (upper == 100 && *value > 0 && *value < 1)
-    messages.show("Value should be a percent (< 100), but appears to be entered as a proportion (< 1). Is this correct?",
-                  msg::kWarning, MsgIcon::None, MsgButtons::Ok);
-  return true;
-}
-
-bool TestCell(std::string_view text, const CellCheck& check, Messages& messages) {
-  if (text.empty() || RangeTest(text, check.lower, check.upper, check.decimals, messages)) return false;
-  Refuse(messages.text(msg::kInvalidInput), messages);
-  return true;
-}
-
-bool TestCellFunctions(std::string_view text, const CellCheck& check, Messages& messages, Engine& engine) {
+bool TestCellFunctions(std::string_view text, const ValueRule& rule, const InputPlace& place, Messages& messages,
+                       Engine& engine) {
   switch (ClassifyCell(text)) {
     case CellKind::Function: return FormulaRefused(text, messages, engine);
     case CellKind::FileReference: return false;
-    default: return TestCell(text, check, messages);
+    default: return TestCell(text, rule, place, messages);
   }
 }
 
-bool TestGridCell(std::string_view text, const CellCheck& check, Messages& messages, Engine& engine) {
-  return check.functions ? TestCellFunctions(text, check, messages, engine) : TestCell(text, check, messages);
+bool TestGridCell(Field grid, const Grid& table, std::size_t row, std::size_t col, std::string_view text,
+                  Messages& messages, Engine& engine) {
+  const ValueRule rule = CellRule(grid, row, col);
+  if (rule.kind == ValueKind::Text) return false;
+  const InputPlace place = CellPlace(grid, table, row, col);
+  return TakesFunctions(rule) ? TestCellFunctions(text, rule, place, messages, engine)
+                              : TestCell(text, rule, place, messages);
 }
 
-bool TestTextBoxFunctions(std::string_view text, const TextBoxLimits& limits, Messages& messages,
+bool TestTextBoxFunctions(Field box, std::string_view text, const std::string& caption, Messages& messages,
                           Engine& engine) {
-  const CellKind kind = ClassifyCell(text);
-  if (kind == CellKind::Function) return FormulaRefused(text, messages, engine);
-  if (kind == CellKind::Empty || kind == CellKind::FileReference) return false;
-  const auto value = ExactNumber(text);
-  if (!value) {
-    messages.show(messages.text(msg::kNumericOrFunction) + "=" + messages.text(msg::kSignSuffix),
-                  msg::kInvalidInput, MsgIcon::Critical);
-    return true;
-  }
-  if (*value < limits.min) {
-    messages.show(limits.belowMessage, msg::kWarning, MsgIcon::Exclamation);
-    return true;
-  }
-  if (*value > limits.max) {
-    messages.show(limits.aboveMessage, msg::kWarning, MsgIcon::Exclamation);
-    return true;
-  }
-  return false;
+  const ValueRule& rule = Describe(box).input.rule;
+  if (rule.kind == ValueKind::Text || Blank(text)) return false;
+  if (TakesFunctions(rule) && ClassifyCell(text) == CellKind::Function) return FormulaRefused(text, messages, engine);
+  const auto fault = CheckValue(rule, text);
+  if (!fault) return false;
+  if (const auto problem = WholeNumberProblem(box, text); problem && *fault == Fault::NotWhole)
+    messages.show({*problem, "", MsgIcon::None, MsgButtons::Ok});
+  else
+    messages.show(InputFault{{caption, {}, {}}, *fault, rule}.Text() + ".", msg::kWarning, MsgIcon::Exclamation);
+  return true;
 }
 
 std::optional<std::string> WholeNumberProblem(Field box, std::string_view text) {

@@ -2,7 +2,9 @@
 // The checks every value of the input pages passes when the user leaves a cell
 // or a box. Each check answers whether the edit must be cancelled; it has
 // already told the user why. A rejected value is never stored and never
-// changed: the user corrects what they typed.
+// changed: the user corrects what they typed. What a value may hold comes
+// from the input description, which the engine reads too, so a value the
+// pages accept is one the engine runs.
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -11,42 +13,23 @@
 #include "app/Messages.h"
 #include "engine/Engine.h"
 #include "model/Grid.h"
-#include "model/ScenarioFields.h"
+#include "model/InputRules.h"
 
 namespace tamsic {
 
-// The bounds of a cell, and whether it may hold a function or a file reference.
-struct CellCheck {
-  bool functions = false;
-  double lower = 0;
-  double upper = 0;
-  bool decimals = true;
-};
-
-// The check of a cell of a grid (rows as the grid layouts count them), or
-// nothing for cells that take any text.
-std::optional<CellCheck> CellCheckFor(Field grid, std::size_t row);
-
-// A number within [lower, upper], whole when decimals are not allowed. A value
-// between 0 and 1 where a percent up to 100 is expected is questioned, and
-// passes.
-bool RangeTest(std::string_view text, double lower, double upper, bool decimals, Messages& messages);
-
-// Answers true when the edit is refused. Empty cells pass.
-bool TestCell(std::string_view text, const CellCheck& check, Messages& messages);
+// A grid cell that must hold a number: an empty cell passes; a number outside
+// the rule is refused with "Invalid input" and the cause. A number between 0
+// and 1 where a percent up to 100 is expected is questioned, and passes.
+bool TestCell(std::string_view text, const ValueRule& rule, const InputPlace& place, Messages& messages);
 // Functions go to the engine's formula test; file references pass as they are.
-bool TestCellFunctions(std::string_view text, const CellCheck& check, Messages& messages, Engine& engine);
-// Applies whichever of the two the cell's check names.
-bool TestGridCell(std::string_view text, const CellCheck& check, Messages& messages, Engine& engine);
+bool TestCellFunctions(std::string_view text, const ValueRule& rule, const InputPlace& place, Messages& messages,
+                       Engine& engine);
+// The check of a cell of a grid, chosen by the cell's rule.
+bool TestGridCell(Field grid, const Grid& table, std::size_t row, std::size_t col, std::string_view text,
+                  Messages& messages, Engine& engine);
 
-// The limits a validating text box carries with it.
-struct TextBoxLimits {
-  double min = 0;
-  double max = 0;
-  std::string belowMessage;
-  std::string aboveMessage;
-};
-bool TestTextBoxFunctions(std::string_view text, const TextBoxLimits& limits, Messages& messages,
+// The check of a text box by its rule; `caption` names the box in messages.
+bool TestTextBoxFunctions(Field box, std::string_view text, const std::string& caption, Messages& messages,
                           Engine& engine);
 
 // The message refusing a text box that must hold a whole number

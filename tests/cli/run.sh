@@ -31,7 +31,7 @@ sed 's/"Northern ridge";"65";"10"/"Northern ridge";"=65*(N";"10"/' "$work/K.tpj"
 # SIGTERM stops a run as Ctrl+C does: the engine is asked to stop, and the
 # reply says the run was cancelled. The loop waits for the first progress
 # bar without sleeping.
-sed 's/^NumIter="6"/NumIter="1000000"/' "$work/K.tpj" > "$work/long.tpj"
+sed 's/^NumIter="6"/NumIter="100000"/' "$work/K.tpj" > "$work/long.tpj"
 "$cli" run "$work/long.tpj" --scenario Managed > /dev/null 2> "$work/long.err" &
 pid=$!
 tries=0

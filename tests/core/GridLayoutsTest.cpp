@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "model/GridLayouts.h"
+#include "model/InputRules.h"
 
 namespace tamsic {
 namespace {
@@ -51,6 +52,36 @@ TEST(GridLayouts, ShapesFollowTheCounts) {
   EXPECT_EQ(harvestM.at(0, 3), "Adults");
   EXPECT_EQ(LayoutGrid(F("gridHarvest"), counts).rows(), 6u);
   EXPECT_THROW(LayoutGrid(F("txtNumPop"), counts), std::logic_error);
+}
+
+// Each cell that holds a value is headed by its line and its population, so
+// that the rule the cell is checked by is the one its heading names.
+TEST(GridLayouts, EveryCellIsHeadedByTheLineItsRuleComesFrom) {
+  const LayoutCounts counts = ThreePopulations();
+  int cells = 0;
+  for (std::size_t i = 0; i < kFieldCount; ++i) {
+    const Field field{i};
+    if (Describe(field).kind != FieldKind::Grid || field == F("Notes")) continue;
+    const GridDescription& d = GridOf(field);
+    const Grid grid = LayoutGrid(field, counts);
+    EXPECT_EQ(PopulationsInColumns(field), d.shape == GridShape::PopulationColumns) << Describe(field).member;
+    for (std::size_t r = 0; r < grid.rows(); ++r)
+      for (std::size_t c = 0; c < grid.cols(); ++c) {
+        const GridLine* line = LineOf(field, r, c);
+        if (!line || line->heading.empty()) continue;
+        ++cells;
+        const bool rowHeaded = d.shape == GridShape::PopulationColumns || d.shape == GridShape::StateVariables ||
+                               d.shape == GridShape::CatastropheLabels;
+        const std::string heading = rowHeaded ? grid.at(r, 0) : grid.at(0, c);
+        const bool adults = d.lines == Lines::AgeClasses && heading == "Adults";  // the oldest class
+        EXPECT_TRUE(adults || heading.starts_with(line->heading))
+            << Describe(field).member << " (" << r << ", " << c << "): " << heading << " is not " << line->heading;
+        if (d.shape == GridShape::PopulationRows) EXPECT_EQ(grid.at(r, 0), counts.populations[r - 1]);
+        if (d.shape == GridShape::PopulationColumns) EXPECT_EQ(grid.at(0, c), counts.populations[c - 1]);
+      }
+  }
+  EXPECT_GT(cells, 200);
+  for (const HeadingCaption& caption : HeadingCaptions()) EXPECT_GT(caption.caption, 0) << caption.heading;
 }
 
 TEST(GridLayouts, RelayoutKeepsValuesThatStillFit) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "model/GridLayouts.h"
+#include "model/NewScenario.h"
 #include "pages/InputChecks.h"
 #include "support/FakeEngine.h"
 #include "support/RecordingMessageBox.h"
@@ -9,11 +11,17 @@ namespace {
 
 class InputChecksTest : public ::testing::Test {
  protected:
-  bool Grid(const char* member, std::size_t row, std::string_view text) {
-    const auto check = CellCheckFor(*FieldByMember(member), row);
-    EXPECT_TRUE(check.has_value()) << member << " row " << row;
-    return TestGridCell(text, *check, recorder.messages, engine);
+  // The first population's cell of the row (or of the column, for grids of one column per population).
+  bool Grid(const char* member, std::size_t line, std::string_view text) {
+    const Field grid = *FieldByMember(member);
+    const std::size_t first = 1;
+    const auto [row, col] = PopulationsInColumns(grid) ? std::pair(line, first) : std::pair(first, line);
+    return TestGridCell(grid, scenario.GetGrid(grid), row, col, text, recorder.messages, engine);
   }
+  bool Box(const char* member, std::string_view text) {
+    return TestTextBoxFunctions(*FieldByMember(member), text, "Box", recorder.messages, engine);
+  }
+  clsScenario scenario = NewScenarioDefaults();
   std::vector<MessageBoxRequest>& shown() { return recorder.box.shown; }
   test::MessageRecorder recorder;
   test::FakeEngine engine;
@@ -33,7 +41,7 @@ TEST_F(InputChecksTest, PercentCells) {
   EXPECT_TRUE(Grid("gridMortFemales", 1, "100.01"));
   EXPECT_TRUE(Grid("gridRepRates1", 1, "-1"));
   EXPECT_TRUE(Grid("gridRepRates3", 1, "abc"));
-  EXPECT_EQ(shown().back().text, "Invalid input");
+  EXPECT_EQ(shown().back().text, "Invalid input\r\n\r\nRepRates3, 0, %: the value must be a number");
   EXPECT_EQ(shown().back().icon, MsgIcon::Critical);
   shown().clear();
   EXPECT_FALSE(Grid("gridCatastrophes2", 1, "0.5")) << "no percent question above 100";
@@ -49,12 +57,16 @@ TEST_F(InputChecksTest, WholeNumbersAndRows) {
   EXPECT_TRUE(Grid("gridInitPopMale", 2, "30001"));
   EXPECT_FALSE(Grid("gridCarryingCap2", 3, "-2.5")) << "a declining K";
   EXPECT_TRUE(Grid("gridCarryingCap2", 2, "2.5"));
-  EXPECT_FALSE(CellCheckFor(*FieldByMember("gridCarryingCap2"), 1).has_value());
+  EXPECT_EQ(shown().back().text,
+            "Invalid input\r\n\r\nCarryingCap2, Population 1, Over how many years?: the value must be a whole number");
+  EXPECT_FALSE(Grid("gridCarryingCap2", 1, "1")) << "a yes/no cell";
   EXPECT_TRUE(Grid("gridHarvest", 3, "=Y"));
   EXPECT_FALSE(Grid("gridHarvest", 5, "=N>100"));
   EXPECT_TRUE(Grid("gridDegMonop", 2, "=N")) << "only the first row takes functions";
   EXPECT_FALSE(Grid("gridDegMonop", 3, "250"));
-  EXPECT_FALSE(CellCheckFor(*FieldByMember("gridPopLabels"), 1).has_value());
+  EXPECT_FALSE(Grid("gridPopLabels", 1, "=not a function")) << "labels take any text";
+  EXPECT_TRUE(Grid("gridCatastrophes1", 1, "Everywhere"));
+  EXPECT_FALSE(Grid("gridCatastrophes1", 1, "Global"));
 }
 
 TEST_F(InputChecksTest, FunctionsGoToTheEngineAndFilesDoNot) {
@@ -72,17 +84,22 @@ TEST_F(InputChecksTest, FunctionsGoToTheEngineAndFilesDoNot) {
 }
 
 TEST_F(InputChecksTest, TextBoxes) {
-  const TextBoxLimits limits{0, 100, "Too small", "Too large"};
-  EXPECT_FALSE(TestTextBoxFunctions("50", limits, recorder.messages, engine));
-  EXPECT_FALSE(TestTextBoxFunctions("", limits, recorder.messages, engine));
-  EXPECT_TRUE(TestTextBoxFunctions("-1", limits, recorder.messages, engine));
-  EXPECT_TRUE(TestTextBoxFunctions("101", limits, recorder.messages, engine));
-  EXPECT_TRUE(TestTextBoxFunctions("lots", limits, recorder.messages, engine));
-  ASSERT_EQ(shown().size(), 3u);
-  EXPECT_EQ(shown()[0].text, "Too small");
-  EXPECT_EQ(shown()[1].text, "Too large");
-  EXPECT_EQ(shown()[2].text, "The value must be numeric or a function, preceded by the = sign.");
-  EXPECT_FALSE(TestTextBoxFunctions("=D*(1-N/K)", limits, recorder.messages, engine));
+  EXPECT_FALSE(Box("txtSexRatio", "50"));
+  EXPECT_FALSE(Box("txtSexRatio", ""));
+  EXPECT_TRUE(Box("txtSexRatio", "-1"));
+  EXPECT_TRUE(Box("txtSexRatio", "101"));
+  EXPECT_TRUE(Box("txtSexRatio", "lots"));
+  EXPECT_TRUE(Box("txtNumYear", "=Y")) << "a count takes no function";
+  EXPECT_TRUE(Box("txtNumIter", "12.5"));
+  ASSERT_EQ(shown().size(), 5u);
+  EXPECT_EQ(shown()[0].text, "Box: the value must be at least 0.");
+  EXPECT_EQ(shown()[1].text, "Box: the value must be at most 100.");
+  EXPECT_EQ(shown()[2].text, "Box: the value must be a number, a function (=...) or a file reference (file=...).");
+  EXPECT_EQ(shown()[3].text, "Box: the value must be a number.");
+  EXPECT_EQ(shown()[4].text, "Box: the value must be a whole number.");
+  EXPECT_FALSE(Box("txtSexRatio", "=D*(1-N/K)"));
+  EXPECT_FALSE(Box("txtEV", "-0.5")) << "populations may be negatively correlated";
+  EXPECT_FALSE(Box("txtSceneName", "anything at all"));
 
   EXPECT_EQ(WholeNumberProblem(F("txtAgeReproF"), "2.5"), "Age of reproduction must be a integer value!");
   EXPECT_EQ(WholeNumberProblem(F("txtMaxLitters"), "1.5"), "Maximum number of broods must be a integer value!");

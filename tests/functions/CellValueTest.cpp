@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "functions/CellValue.h"
+#include "model/CellValue.h"
 
 namespace tamsic {
 namespace {

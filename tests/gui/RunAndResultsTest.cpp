@@ -202,7 +202,7 @@ class RunAndResultsTest : public QObject {
     QTemporaryDir folder;
     TestProgram t;
     mdiMain frame(t.program);
-    frmProject* project = frame.openProject(SmallCopy(folder, "Gorillas.tpj", 1000000, 100));
+    frmProject* project = frame.openProject(SmallCopy(folder, "Gorillas.tpj", 100000, 100));
     QVERIFY(project != nullptr);
     const QByteArray before = ReadFile(folder.filePath("Gorillas.tpj"));
     WhenShown<frmSimRun>([](frmSimRun& dialog) {

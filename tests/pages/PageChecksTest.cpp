@@ -26,7 +26,9 @@ void PageChecksTest::textBoxes_data() {
   QTest::addColumn<QString>("message");
   QTest::newRow("years at the limit") << "txtNumYear" << "2000" << true << "";
   QTest::newRow("years above") << "txtNumYear" << "2001" << false << "Number of years: the value must be at most 2000.";
-  QTest::newRow("not a number") << "txtNumIter" << "many" << false << "The value must be numeric or a function, preceded by the =";
+  QTest::newRow("not a number") << "txtNumIter" << "many" << false << "Number of iterations: the value must be a number.";
+  QTest::newRow("not a number nor a function") << "txtSexRatio" << "many" << false
+                                               << "Sex ratio at birth (% Males): the value must be a number, a function";
   QTest::newRow("EV correlation 1.01") << "txtEV" << "1.01" << false << "Correlation of EV among populations: the value must be at most 1.";
   QTest::newRow("female age 2.5") << "txtAgeReproF" << "2.5" << false << "Age of reproduction must be a integer value!";
   QTest::newRow("dispersal ages reversed") << "txtDispOld" << "0" << false

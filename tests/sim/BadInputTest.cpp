@@ -38,10 +38,11 @@ TEST(SimBadInput, AFunctionThatDoesNotCompile) {
 TEST(SimBadInput, ARateOutOfRange) {
   SimScenario s = Base();
   s.cell(F("gridMortFemales"), 1, 3, "120");
-  EXPECT_EQ(Reply(s), "Error: scenario \"Base\": MortFemales, P1, Mortality From Age 1 to 2 is 120, outside 0 .. 100");
+  EXPECT_EQ(Reply(s), "Error: scenario \"Base\": MortFemales, P1, Mortality From Age 1 to 2: the value must be at most 100");
   SimScenario notANumber = Base();
   notANumber.text(F("txtSexRatio"), "half");
-  EXPECT_EQ(Reply(notANumber), "Error: scenario \"Base\": SexRatio: \"half\" is neither a number nor a function");
+  EXPECT_EQ(Reply(notANumber), "Error: scenario \"Base\": SexRatio: the value must be a number, a function (=...) or a "
+                                "file reference (file=...)");
 }
 
 TEST(SimBadInput, AFunctionThatGivesNoNumber) {
@@ -55,7 +56,7 @@ TEST(SimBadInput, AMissingFileReference) {
   SimScenario s = Base();
   s.cell(F("gridCarryingCap1"), 1, 1, "file=capacity.txt");
   const std::string reply = Reply(s);
-  EXPECT_TRUE(reply.starts_with("Error: scenario \"Base\": CarryingCap1, Carrying Capacity (K), P1: ")) << reply;
+  EXPECT_TRUE(reply.starts_with("Error: scenario \"Base\": CarryingCap1, P1, Carrying Capacity (K): ")) << reply;
   EXPECT_NE(reply.find("capacity.txt"), std::string::npos) << reply;
 }
 
@@ -65,7 +66,7 @@ std::string FileRefusal(const TestFolder& folder, const std::string& reference) 
   s.cell(F("gridMortFemales"), 1, 1, reference);
   const sim::CellReader reader(s.scenario(), folder.path());
   try {
-    reader.GridRate(F("gridMortFemales"), 1, 1, sim::kPercent, 0);
+    reader.GridRate(F("gridMortFemales"), 1, 1, 0);
   } catch (const sim::SimError& refusal) {
     return refusal.what();
   }
@@ -80,7 +81,7 @@ TEST(SimBadInput, FileReferencesHoldFiniteValuesInRangeAndStayInTheFolder) {
   std::ofstream(folder.path() / "inf.txt") << "inf\n";
   EXPECT_EQ(FileRefusal(folder, "file=good.txt"), "accepted");
   EXPECT_EQ(FileRefusal(folder, "file=high.txt"),
-            "MortFemales, P1, Mortality From Age 0 to 1: the file high.txt, line 3: the value is 130, outside 0 .. 100");
+            "MortFemales, P1, Mortality From Age 0 to 1: the file high.txt, line 3: the value must be at most 100");
   EXPECT_NE(FileRefusal(folder, "file=nan.txt").find("\"nan\" on line 2 is not a finite number"), std::string::npos);
   EXPECT_NE(FileRefusal(folder, "file=inf.txt").find("is not a finite number"), std::string::npos);
   // Neither a pipe with no writer (it would hang the run) nor a device (it never ends) is read.
@@ -127,7 +128,7 @@ TEST(SimBadInput, AFullDiskLeavesTheEarlierFilesAsTheyWere) {
 TEST(SimBadInput, NoPopulations) {
   SimScenario s = Base();
   s.text(F("txtNumPop"), "0");
-  EXPECT_EQ(Reply(s), "Error: scenario \"Base\": NumPop: a scenario needs at least one population (1 .. 50)");
+  EXPECT_EQ(Reply(s), "Error: scenario \"Base\": NumPop: the value must be at least 1");
 }
 
 TEST(SimBadInput, AScenarioNotInTheFileAfterOneThatRan) {

@@ -39,7 +39,7 @@ double EulerLotkaLambda() {
 }
 
 TEST(SimChecks, ACancelStopsAnIterationWithinAYear) {
-  const SimScenario s("Long", 1, 500, 100000);
+  const SimScenario s("Long", 1, 500, 60000);
   const sim::Model model = sim::ReadModel(s.scenario(), std::filesystem::current_path(), {});
   std::vector<sim::LifeTable> tables{sim::BuildLifeTable(model, 0)};
   const auto start = sim::StartingPopulations(model, tables);
@@ -55,7 +55,7 @@ TEST(SimChecks, ACancelStopsAnIterationWithinAYear) {
 }
 
 TEST(SimChecks, DeterministicGrowthIsTheDominantEigenvalue) {
-  const SimScenario s("Life", 1, 500, 100000);
+  const SimScenario s("Life", 1, 500, 60000);
   const sim::Model model = sim::ReadModel(s.scenario(), std::filesystem::current_path(), {});
   const sim::LifeTable table = sim::BuildLifeTable(model, 0);
   EXPECT_NEAR(table.lambda, EulerLotkaLambda(), 1e-4);
@@ -75,7 +75,7 @@ TEST(SimChecks, DeterministicGrowthIsTheDominantEigenvalue) {
 }
 
 TEST(SimChecks, StochasticGrowthAgreesWithTheLifeTable) {
-  SimScenario s("Growth", 1, 500, 100000);
+  SimScenario s("Growth", 1, 500, 60000);
   s.text(F("txtNumIter"), "40").text(F("txtNumYear"), "15");
   const RunOutput out = RunScenario({s}, "Growth", "SEED7");
   ASSERT_TRUE(out.reply.starts_with("Message")) << out.reply;

@@ -81,8 +81,11 @@ void ExpectEveryFounderAlleleDistinct(const RunOutput& out) {
 
 // More than 65536 founder alleles: the pool has widened.
 TEST(SimGenome, LargeFoundingPopulationsKeepEveryFounderAllele) {
-  SimScenario big("Big", 1, 40000, 60000);
-  big.text(F("txtNumIter"), "1").text(F("txtNumYear"), "1");
+  // More founders than one age class may hold: 10000 of each sex at each of four ages.
+  SimScenario big("Big", 1, 0, 60000);
+  big.text(F("txtNumIter"), "1").text(F("txtNumYear"), "1").option(F("optStartWith_1"));
+  for (std::size_t age = 1; age <= 4; ++age)
+    big.everyPopulation(F("gridInitPopFemale"), age, "10000").everyPopulation(F("gridInitPopMale"), age, "10000");
   const RunOutput out = RunScenario({big}, "Big", "SEED2");
   ExpectEveryFounderAlleleDistinct(out);
   EXPECT_GT(out.blocks[0][1][kAlleles], 65536.0);

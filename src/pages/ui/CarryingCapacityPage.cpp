@@ -9,11 +9,8 @@ using tamsic::F;
 
 CarryingCapacityPage::CarryingCapacityPage(const PageContext& context, QWidget* parent)
     : InputPage(context, 1000, parent) {
-  gridCarryingCap1 = gridView("gridCarryingCap1", F("gridCarryingCap1"), 1001);
-  gridCarryingCap1->hintOf = [](int row, int) { return row == 2 ? 1004 : 1003; };
-  gridCarryingCap2 = gridView("gridCarryingCap2", F("gridCarryingCap2"), 1002);
-  gridCarryingCap2->grid()->cellUse = [](int row, int) { return row == 1 ? CellUse::CheckBox : CellUse::Value; };
-  gridCarryingCap2->hintOf = [](int row, int) { return row >= 1 && row <= 3 ? 1004 + row : 1002; };
+  gridCarryingCap1 = gridView("gridCarryingCap1", F("gridCarryingCap1"));
+  gridCarryingCap2 = gridView("gridCarryingCap2", F("gridCarryingCap2"));
 
   auto* page = new QVBoxLayout(this);
   page->addWidget(label(1001));

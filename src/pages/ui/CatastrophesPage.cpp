@@ -11,17 +11,12 @@
 using tamsic::F;
 
 CatastrophesPage::CatastrophesPage(const PageContext& context, QWidget* parent) : InputPage(context, 700, parent) {
-  gridCatastropheLabels = gridView("gridCatastropheLabels", F("gridCatastropheLabels"), 707, false);
+  gridCatastropheLabels = gridView("gridCatastropheLabels", F("gridCatastropheLabels"));
   gridCatastropheLabels->horizontalHeader()->hide();
   gridCatastropheLabels->horizontalHeader()->setStretchLastSection(true);
   gridCatastropheLabels->setMinimumWidth(420);
-  gridCatastrophes1 = gridView("gridCatastrophes1", F("gridCatastrophes1"), 701);
-  // Each type has a pair of columns: "Global" or "Local", then its frequency.
-  gridCatastrophes1->grid()->cellUse = [](int, int col) { return col % 2 ? CellUse::Choice : CellUse::Value; };
-  gridCatastrophes1->grid()->choices = [](int, int) { return QStringList{"Local", "Global"}; };
-  gridCatastrophes1->hintOf = [](int, int col) { return col % 2 ? 705 : 702; };
-  gridCatastrophes2 = gridView("gridCatastrophes2", F("gridCatastrophes2"), 703);
-  gridCatastrophes2->hintOf = [](int, int col) { return col % 2 ? 704 : 706; };
+  gridCatastrophes1 = gridView("gridCatastrophes1", F("gridCatastrophes1"));
+  gridCatastrophes2 = gridView("gridCatastrophes2", F("gridCatastrophes2"));
   layOut();
 }
 

@@ -21,19 +21,17 @@
 using tamsic::F;
 
 DispersalPage::DispersalPage(const PageContext& context, QWidget* parent) : InputPage(context, 300, parent) {
-  txtDispYoung = textBox("txtDispYoung", F("txtDispYoung"), 307, limits(0, tamsic::kMaxAge, context.text(314)));
-  txtDispOld = textBox("txtDispOld", F("txtDispOld"), 309, [this](const QString& old) {
+  txtDispYoung = textBox("txtDispYoung", F("txtDispYoung"));
+  txtDispOld = textBox("txtDispOld", F("txtDispOld"), [this](const QString& old) {
     return tamsic::TestDispersalAges(ToRecord(txtDispYoung->text()), ToRecord(old), context_.messages);
   });
-  chkDispMales = checkBox("chkDispMales", F("chkDispMales"), 317, 310);
-  chkDispFemales = checkBox("chkDispFemales", F("chkDispFemales"), 318, 311);
-  txtPercentDispSurvive = textBox("txtPercentDispSurvive", F("txtPercentDispSurvive"), 312,
-                                  limits(0, 100, context.text(323)));
-  txtDensDispersal = textBox("txtDensDispersal", F("txtDensDispersal"), 112,
-                             limits(-32767, 32767, context.text(324)));
+  chkDispMales = checkBox("chkDispMales", F("chkDispMales"));
+  chkDispFemales = checkBox("chkDispFemales", F("chkDispFemales"));
+  txtPercentDispSurvive = textBox("txtPercentDispSurvive", F("txtPercentDispSurvive"));
+  txtDensDispersal = textBox("txtDensDispersal", F("txtDensDispersal"));
   txtDensDispersal->setMaximumWidth(320);
   txtDensDispersal->setMinimumWidth(200);
-  gridDispRates = gridView("gridDispRates", F("gridDispRates"), 302);
+  gridDispRates = gridView("gridDispRates", F("gridDispRates"));
   gridDispRates->grid()->cellUse = [](int row, int col) { return row == col ? CellUse::Computed : CellUse::Value; };
   gridDispRates->grid()->computedText = [this](int row, int) { return notDispersing(row); };
   txtFillDispersal = new QLineEdit(this);

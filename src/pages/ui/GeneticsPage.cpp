@@ -15,33 +15,29 @@
 using tamsic::F;
 
 GeneticsPage::GeneticsPage(const PageContext& context, QWidget* parent) : InputPage(context, 1300, parent) {
-  chkGenMgtImportStudbookFile = checkBox("chkGenMgtImportStudbookFile", F("chkGenMgtImportStudbookFile"), 1339, 1315);
-  valtxtGenMgtImportStudbookFile = textBox("valtxtGenMgtImportStudbookFile", F("txtGenMgtImportStudbookFile"), 1316);
+  chkGenMgtImportStudbookFile = checkBox("chkGenMgtImportStudbookFile", F("chkGenMgtImportStudbookFile"));
+  valtxtGenMgtImportStudbookFile = textBox("valtxtGenMgtImportStudbookFile", F("txtGenMgtImportStudbookFile"));
   cmdBrowseGenMgtImportStudbookFile = button("cmdBrowseGenMgtImportStudbookFile", 1341, 1317);
-  chkGenMgtAlleleFreqs = checkBox("chkGenMgtAlleleFreqs", F("chkGenMgtAlleleFreqs"), 1340, 1318);
-  valtxtGenMgtAlleleFreqs = textBox("valtxtGenMgtAlleleFreqs", F("txtGenMgtAlleleFreqs"), 1319);
+  chkGenMgtAlleleFreqs = checkBox("chkGenMgtAlleleFreqs", F("chkGenMgtAlleleFreqs"));
+  valtxtGenMgtAlleleFreqs = textBox("valtxtGenMgtAlleleFreqs", F("txtGenMgtAlleleFreqs"));
   cmdBrowseGenMgtAlleleFreqs = button("cmdBrowseGenMgtAlleleFreqs", 1341, 1320);
-  valtxtGenMgtNumNeutralLoci = textBox("valtxtGenMgtNumNeutralLoci", F("txtGenMgtNumNeutralLoci"), 1321,
-                                       limits(0, 1000, context.text(1342)));
-  chkGenMgtBreedToMaintinK = checkBox("chkGenMgtBreedToMaintinK", F("chkGenMgtBreedToMaintinK"), 1343, 1322);
-  chkGenMgtPreventMatingsF = checkBox("chkGenMgtPreventMatingsF", F("chkGenMgtPreventMatingsF"), 1344, 1326);
-  valtxtGenMgtPreventMatingsF = textBox("valtxtGenMgtPreventMatingsF", F("txtGenMgtPreventMatingsF"), 1327,
-                                        limits(0, 1, context.text(1344)));
-  chkGenMgtPairMeanKinship = checkBox("chkGenMgtPairMeanKinship", F("chkGenMgtPairMeanKinship"), 1347, 1328);
-  SSOptGenMgtPairMK_0 = option("SSOptGenMgtPairMK_0", F("SSOptGenMgtPairMK_0"), 1348, 1329);
-  SSOptGenMgtPairMK_1 = option("SSOptGenMgtPairMK_1", F("SSOptGenMgtPairMK_1"), 1349, 1330);
-  valtxtGenMgtMaxNumMates = textBox("valtxtGenMgtMaxNumMates", F("txtGenMgtMaxNumMates"), 1331,
-                                    limits(1, 1000, context.text(1350)));
-  valtxtGenMgtPairingLimitation = textBox("valtxtGenMgtPairingLimitation", F("txtGenMgtPairingLimitation"), 1332,
-                                          limits(0, 1, context.text(1351)));
-  valtxtGenMgtNumTimesTryFindMate = textBox("valtxtGenMgtNumTimesTryFindMate", F("txtGenMgtNumTimesTryFindMate"),
-                                            1333, limits(1, 1000, context.text(1352)));
-  chkGenMgtOutputGenePop = checkBox("chkGenMgtOutputGenePop", F("chkGenMgtOutputGenePop"), 1353, 1334);
-  chkGenMgtOutputAlleleFreq = checkBox("chkGenMgtOutputAlleleFreq", F("chkGenMgtOutputAlleleFreq"), 1354, 1335);
-  GTallyOptButton_0 = option("GTallyOptButton_0", F("GTallyOptButton_0"), 1357, 1337);
-  GTallyOptButton_1 = option("GTallyOptButton_1", F("GTallyOptButton_1"), 1358, 1338);
-  GTallyOptButton_2 = option("GTallyOptButton_2", F("GTallyOptButton_2"), 1356, 1336);
-  for (QLineEdit* file : {valtxtGenMgtImportStudbookFile, valtxtGenMgtAlleleFreqs}) file->setMaximumWidth(QWIDGETSIZE_MAX);
+  valtxtGenMgtNumNeutralLoci = textBox("valtxtGenMgtNumNeutralLoci", F("txtGenMgtNumNeutralLoci"));
+  chkGenMgtBreedToMaintinK = checkBox("chkGenMgtBreedToMaintinK", F("chkGenMgtBreedToMaintinK"));
+  chkGenMgtPreventMatingsF = checkBox("chkGenMgtPreventMatingsF", F("chkGenMgtPreventMatingsF"));
+  valtxtGenMgtPreventMatingsF = textBox("valtxtGenMgtPreventMatingsF", F("txtGenMgtPreventMatingsF"));
+  chkGenMgtPairMeanKinship = checkBox("chkGenMgtPairMeanKinship", F("chkGenMgtPairMeanKinship"));
+  SSOptGenMgtPairMK_0 = option("SSOptGenMgtPairMK_0", F("SSOptGenMgtPairMK_0"));
+  SSOptGenMgtPairMK_1 = option("SSOptGenMgtPairMK_1", F("SSOptGenMgtPairMK_1"));
+  valtxtGenMgtMaxNumMates = textBox("valtxtGenMgtMaxNumMates", F("txtGenMgtMaxNumMates"));
+  valtxtGenMgtPairingLimitation = textBox("valtxtGenMgtPairingLimitation", F("txtGenMgtPairingLimitation"));
+  valtxtGenMgtNumTimesTryFindMate = textBox("valtxtGenMgtNumTimesTryFindMate", F("txtGenMgtNumTimesTryFindMate"));
+  chkGenMgtOutputGenePop = checkBox("chkGenMgtOutputGenePop", F("chkGenMgtOutputGenePop"));
+  chkGenMgtOutputAlleleFreq = checkBox("chkGenMgtOutputAlleleFreq", F("chkGenMgtOutputAlleleFreq"));
+  GTallyOptButton_0 = option("GTallyOptButton_0", F("GTallyOptButton_0"));
+  GTallyOptButton_1 = option("GTallyOptButton_1", F("GTallyOptButton_1"));
+  GTallyOptButton_2 = option("GTallyOptButton_2", F("GTallyOptButton_2"));
+  for (QLineEdit* file : {valtxtGenMgtImportStudbookFile, valtxtGenMgtAlleleFreqs})
+    file->setMaximumWidth(QWIDGETSIZE_MAX);
   chooseFile = [this](const QString& filter) { return QFileDialog::getOpenFileName(this, {}, {}, filter); };
   layOut();
   wire();

@@ -12,11 +12,11 @@ using tamsic::F;
 
 InitialPopulationPage::InitialPopulationPage(const PageContext& context, QWidget* parent)
     : InputPage(context, 900, parent) {
-  optStartWith_0 = option("optStartWith_0", F("optStartWith_0"), 907, 901);
-  optStartWith_1 = option("optStartWith_1", F("optStartWith_1"), 908, 902);
-  gridInitPopStable = gridView("gridInitPopStable", F("gridInitPopStable"), 903);
-  gridInitPopFemale = gridView("gridInitPopFemale", F("gridInitPopFemale"), 904);
-  gridInitPopMale = gridView("gridInitPopMale", F("gridInitPopMale"), 905);
+  optStartWith_0 = option("optStartWith_0", F("optStartWith_0"));
+  optStartWith_1 = option("optStartWith_1", F("optStartWith_1"));
+  gridInitPopStable = gridView("gridInitPopStable", F("gridInitPopStable"));
+  gridInitPopFemale = gridView("gridInitPopFemale", F("gridInitPopFemale"));
+  gridInitPopMale = gridView("gridInitPopMale", F("gridInitPopMale"));
   layOut();
   wire();
 }

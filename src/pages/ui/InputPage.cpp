@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "model/InputRules.h"
 #include "pages/InputChecks.h"
 #include "pages/ui/GridView.h"
 #include "pages/ui/UpdateGuard.h"
@@ -28,42 +29,65 @@ void InputPage::storeInto(tamsic::clsScenario& record) const {
   for (GridView* view : grids_) record.SetGrid(view->grid()->field(), view->grid()->grid());
 }
 
-QLineEdit* InputPage::textBox(const char* name, tamsic::Field field, int hint, FieldBindings::Check check) {
+QLineEdit* InputPage::textBox(const char* name, tamsic::Field field, FieldBindings::Check check) {
+  const tamsic::InputDescription& input = tamsic::Describe(field).input;
   auto* box = new QLineEdit(this);
   box->setObjectName(name);
-  box->setToolTip(context_.text(hint));
+  box->setToolTip(context_.text(input.hint));
   box->setMaximumWidth(110);  // numbers; boxes for names and functions widen themselves
-  bindings_.add(box, field, std::move(check));
+  auto rule = [this, field, caption = input.caption](const QString& text) {
+    // Messages are UTF-8, unlike the record's texts.
+    const std::string what = caption ? context_.text(caption).toStdString() : std::string(tamsic::Describe(field).key);
+    return tamsic::TestTextBoxFunctions(field, ToRecord(text), what, context_.messages, context_.engine);
+  };
+  bindings_.add(box, field, [rule, check = std::move(check)](const QString& text) {
+    return rule(text) || (check && check(text));
+  });
   return box;
 }
 
-QCheckBox* InputPage::checkBox(const char* name, tamsic::Field field, int caption, int hint) {
-  auto* box = new QCheckBox(context_.text(caption), this);
+QCheckBox* InputPage::checkBox(const char* name, tamsic::Field field) {
+  const tamsic::InputDescription& input = tamsic::Describe(field).input;
+  auto* box = new QCheckBox(context_.text(input.caption), this);
   box->setObjectName(name);
-  box->setToolTip(context_.text(hint));
+  box->setToolTip(context_.text(input.hint));
   bindings_.add(box, field);
   return box;
 }
 
-QRadioButton* InputPage::option(const char* name, tamsic::Field field, int caption, int hint) {
-  auto* button = new QRadioButton(context_.text(caption), this);
+QRadioButton* InputPage::option(const char* name, tamsic::Field field) {
+  const tamsic::InputDescription& input = tamsic::Describe(field).input;
+  auto* button = new QRadioButton(context_.text(input.caption), this);
   button->setObjectName(name);
-  button->setToolTip(context_.text(hint));
+  button->setToolTip(context_.text(input.hint));
   bindings_.add(button, field);
   return button;
 }
 
-GridView* InputPage::gridView(const char* name, tamsic::Field field, int hint, bool headingRow) {
-  auto* view = new GridView(context_, field, name, hint, headingRow, this);
+GridView* InputPage::gridView(const char* name, tamsic::Field field) {
+  const tamsic::GridDescription& description = *tamsic::Describe(field).input.grid;
+  const bool headingRow = description.shape != tamsic::GridShape::CatastropheLabels;
+  auto* view = new GridView(context_, field, name, tamsic::Describe(field).input.hint, headingRow, this);
   grids_.push_back(view);
+  view->hintOf = [field](int row, int col) {
+    return tamsic::CellHint(field, static_cast<std::size_t>(row), static_cast<std::size_t>(col));
+  };
+  view->grid()->cellUse = [field](int row, int col) {
+    switch (tamsic::CellRule(field, static_cast<std::size_t>(row), static_cast<std::size_t>(col)).kind) {
+      case tamsic::ValueKind::Switch: return CellUse::CheckBox;
+      case tamsic::ValueKind::Place: return CellUse::Choice;
+      default: return CellUse::Value;
+    }
+  };
+  view->grid()->choices = [](int, int) { return QStringList{"Local", "Global"}; };
   view->grid()->heading = [this](const std::string& stored) { return headings_.shown(stored); };
   connect(view, &GridView::hintChanged, this, &InputPage::hintChanged);
   connect(view->grid(), &GridModel::committed, this, [this] {
     if (!updating_) emit edited();
   });
-  view->grid()->refuses = [this, field](int row, int, const std::string& text) {
-    const auto check = tamsic::CellCheckFor(field, static_cast<std::size_t>(row));
-    return check && tamsic::TestGridCell(text, *check, context_.messages, context_.engine);
+  view->grid()->refuses = [this, field, view](int row, int col, const std::string& text) {
+    return tamsic::TestGridCell(field, view->grid()->grid(), static_cast<std::size_t>(row),
+                                static_cast<std::size_t>(col), text, context_.messages, context_.engine);
   };
   return view;
 }
@@ -77,12 +101,3 @@ QPushButton* InputPage::button(const char* name, int caption, int hint) {
   return push;
 }
 
-FieldBindings::Check InputPage::limits(double min, double max, const QString& what) {
-  // Messages are UTF-8, unlike the record's texts.
-  const tamsic::TextBoxLimits bounds{min, max,
-                                     (what + ": the value must be at least " + QString::number(min) + ".").toStdString(),
-                                     (what + ": the value must be at most " + QString::number(max) + ".").toStdString()};
-  return [this, bounds](const QString& text) {
-    return tamsic::TestTextBoxFunctions(ToRecord(text), bounds, context_.messages, context_.engine);
-  };
-}

@@ -39,15 +39,16 @@ class InputPage : public QWidget {
   void hintChanged(const QString& hint);
 
  protected:
-  QLineEdit* textBox(const char* name, tamsic::Field field, int hint, FieldBindings::Check check = {});
-  QCheckBox* checkBox(const char* name, tamsic::Field field, int caption, int hint);
-  QRadioButton* option(const char* name, tamsic::Field field, int caption, int hint);
-  GridView* gridView(const char* name, tamsic::Field field, int hint, bool headingRow = true);
+  // A box checked by its field's rule, then by `check` when one is given;
+  // its hint is the field's.
+  QLineEdit* textBox(const char* name, tamsic::Field field, FieldBindings::Check check = {});
+  // Captions and hints come from the field's description.
+  QCheckBox* checkBox(const char* name, tamsic::Field field);
+  QRadioButton* option(const char* name, tamsic::Field field);
+  // A grid shaped, checked and hinted by its field's description.
+  GridView* gridView(const char* name, tamsic::Field field);
   QLabel* label(int caption);
   QPushButton* button(const char* name, int caption, int hint);
-
-  // A text box check that refuses numbers outside [min, max] and functions the engine refuses.
-  FieldBindings::Check limits(double min, double max, const QString& what);
 
   const PageContext& context_;
   bool updating_ = false;

@@ -16,16 +16,12 @@
 using tamsic::F;
 
 LabelsPage::LabelsPage(const PageContext& context, QWidget* parent) : InputPage(context, 200, parent) {
-  const double most = tamsic::kMaxStateVars;
-  gridPopLabels = gridView("gridPopLabels", F("gridPopLabels"), 201);
-  gridPopLabels->hintOf = [](int, int col) { return col == 1 ? 201 : 202; };
-  txtNumPopStateVars = textBox("txtNumPopStateVars", F("txtNumPopStateVars"), 203, limits(0, most, context.text(205)));
-  txtNumGlobalVars = textBox("txtNumGlobalVars", F("txtNumGlobalVars"), 233, limits(0, most, context.text(235)));
-  gridGlobalVars = gridView("gridGlobalVars", F("gridGlobalVars"), 234);
-  txtNumIndividualStateParams = textBox("txtNumIndividualStateParams", F("txtNumIndividualStateParams"), 237,
-                                        limits(0, most, context.text(244)));
-  gridIndividualStateParams = gridView("gridIndividualStateParams", F("gridIndividualStateParams"), 238);
-  gridIndividualStateParams->hintOf = [](int row, int) { return row >= 1 && row <= 4 ? 237 + row : 238; };
+  gridPopLabels = gridView("gridPopLabels", F("gridPopLabels"));
+  txtNumPopStateVars = textBox("txtNumPopStateVars", F("txtNumPopStateVars"));
+  txtNumGlobalVars = textBox("txtNumGlobalVars", F("txtNumGlobalVars"));
+  gridGlobalVars = gridView("gridGlobalVars", F("gridGlobalVars"));
+  txtNumIndividualStateParams = textBox("txtNumIndividualStateParams", F("txtNumIndividualStateParams"));
+  gridIndividualStateParams = gridView("gridIndividualStateParams", F("gridIndividualStateParams"));
   OutbreakISVars = button("OutbreakISVars", 250, 242);
   SpatialISVars = button("SpatialISVars", 251, 243);
   layOut();

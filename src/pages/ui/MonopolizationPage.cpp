@@ -10,8 +10,7 @@ using tamsic::F;
 
 MonopolizationPage::MonopolizationPage(const PageContext& context, QWidget* parent)
     : InputPage(context, 800, parent) {
-  gridDegMonop = gridView("gridDegMonop", F("gridDegMonop"), 805);
-  gridDegMonop->hintOf = [](int row, int) { return row >= 1 && row <= 3 ? 800 + row : 805; };
+  gridDegMonop = gridView("gridDegMonop", F("gridDegMonop"));
 
   auto* frame = new QGroupBox(context.text(810), this);
   auto* inner = new QVBoxLayout(frame);

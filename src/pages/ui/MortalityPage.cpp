@@ -11,10 +11,9 @@
 using tamsic::F;
 
 MortalityPage::MortalityPage(const PageContext& context, QWidget* parent) : InputPage(context, 600, parent) {
-  gridMortFemales = gridView("gridMortFemales", F("gridMortFemales"), 601);
-  gridMortMales = gridView("gridMortMales", F("gridMortMales"), 602);
+  gridMortFemales = gridView("gridMortFemales", F("gridMortFemales"));
+  gridMortMales = gridView("gridMortMales", F("gridMortMales"));
   // Odd columns hold a mean, even columns its SD.
-  for (GridView* view : {gridMortFemales, gridMortMales}) view->hintOf = [](int, int col) { return col % 2 ? 604 : 606; };
   cmdMortCopyFemale = button("cmdMortCopyFemale", 605, 603);
   layOut();
   wire();

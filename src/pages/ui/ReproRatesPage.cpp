@@ -22,13 +22,12 @@ void LastRowComputed(GridView* view) {
 }  // namespace
 
 ReproRatesPage::ReproRatesPage(const PageContext& context, QWidget* parent) : InputPage(context, 500, parent) {
-  gridRepRates1 = gridView("gridRepRates1", F("gridRepRates1"), 501);
-  gridRepRates1->hintOf = [](int, int col) { return col == 2 ? 502 : 501; };
-  optUseMean_0 = option("optUseMean_0", F("optUseMean_0"), 511, 503);
-  optUseMean_1 = option("optUseMean_1", F("optUseMean_1"), 512, 507);
-  gridRepRates2 = gridView("gridRepRates2", F("gridRepRates2"), 504);
-  gridRepRates3 = gridView("gridRepRates3", F("gridRepRates3"), 505);
-  gridRepRates4 = gridView("gridRepRates4", F("gridRepRates4"), 506);
+  gridRepRates1 = gridView("gridRepRates1", F("gridRepRates1"));
+  optUseMean_0 = option("optUseMean_0", F("optUseMean_0"));
+  optUseMean_1 = option("optUseMean_1", F("optUseMean_1"));
+  gridRepRates2 = gridView("gridRepRates2", F("gridRepRates2"));
+  gridRepRates3 = gridView("gridRepRates3", F("gridRepRates3"));
+  gridRepRates4 = gridView("gridRepRates4", F("gridRepRates4"));
   LastRowComputed(gridRepRates3);
   LastRowComputed(gridRepRates4);
   layOut();

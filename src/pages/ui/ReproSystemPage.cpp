@@ -18,42 +18,24 @@
 using tamsic::F;
 
 ReproSystemPage::ReproSystemPage(const PageContext& context, QWidget* parent) : InputPage(context, 400, parent) {
-  optMPHLQ_0 = option("optMPHLQ_0", F("optMPHLQ_0"), 429, 401);
-  optMPHLQ_1 = option("optMPHLQ_1", F("optMPHLQ_1"), 430, 402);
-  optMPHLQ_2 = option("optMPHLQ_2", F("optMPHLQ_2"), 431, 403);
-  optMPHLQ_3 = option("optMPHLQ_3", F("optMPHLQ_3"), 432, 404);
-  optMPHLQ_4 = option("optMPHLQ_4", F("optMPHLQ_4"), 433, 405);
-  const double maxAge = tamsic::kMaxAge;
-  const double maxCount = tamsic::kMaxBroodsOrProgeny;
-  txtAgeReproF = textBox("txtAgeReproF", F("txtAgeReproF"), 406, wholeNumber(F("txtAgeReproF"), 0, maxAge, 434));
-  txtAgeReproM = textBox("txtAgeReproM", F("txtAgeReproM"), 407, wholeNumber(F("txtAgeReproM"), 0, maxAge, 435));
-  txtMaxAgeRepro =
-      textBox("txtMaxAgeRepro", F("txtMaxAgeRepro"), 408, wholeNumber(F("txtMaxAgeRepro"), 1, maxAge, 436));
-  txtMaxLitters =
-      textBox("txtMaxLitters", F("txtMaxLitters"), 409, wholeNumber(F("txtMaxLitters"), 1, maxCount, 437));
-  txtMaxProgeny =
-      textBox("txtMaxProgeny", F("txtMaxProgeny"), 410, wholeNumber(F("txtMaxProgeny"), 1, maxCount, 438));
-  txtSexRatio = textBox("txtSexRatio", F("txtSexRatio"), 411, limits(0, 100, context.text(439)));
-  gridReproSys = gridView("gridReproSys", F("gridReproSys"), 412);
-  gridReproSys->grid()->cellUse = [](int row, int) { return row == 1 ? CellUse::CheckBox : CellUse::Value; };
-  gridReproSys->hintOf = [](int row, int) { return row >= 2 && row <= 5 ? 417 + row : 412; };
+  optMPHLQ_0 = option("optMPHLQ_0", F("optMPHLQ_0"));
+  optMPHLQ_1 = option("optMPHLQ_1", F("optMPHLQ_1"));
+  optMPHLQ_2 = option("optMPHLQ_2", F("optMPHLQ_2"));
+  optMPHLQ_3 = option("optMPHLQ_3", F("optMPHLQ_3"));
+  optMPHLQ_4 = option("optMPHLQ_4", F("optMPHLQ_4"));
+  txtAgeReproF = textBox("txtAgeReproF", F("txtAgeReproF"));
+  txtAgeReproM = textBox("txtAgeReproM", F("txtAgeReproM"));
+  txtMaxAgeRepro = textBox("txtMaxAgeRepro", F("txtMaxAgeRepro"));
+  txtMaxLitters = textBox("txtMaxLitters", F("txtMaxLitters"));
+  txtMaxProgeny = textBox("txtMaxProgeny", F("txtMaxProgeny"));
+  txtSexRatio = textBox("txtSexRatio", F("txtSexRatio"));
+  gridReproSys = gridView("gridReproSys", F("gridReproSys"));
   cboReproFunction = new QComboBox(this);
   cboReproFunction->setObjectName("cboReproFunction");
   cboReproFunction->setToolTip(context.text(417));
   cmdReproFunction = button("cmdReproFunction", 440, 418);
   layOut();
   wire();
-}
-
-FieldBindings::Check ReproSystemPage::wholeNumber(tamsic::Field field, double min, double max, int caption) {
-  FieldBindings::Check range = limits(min, max, context_.text(caption));
-  return [this, field, range](const QString& text) {
-    if (const auto problem = tamsic::WholeNumberProblem(field, ToRecord(text))) {
-      context_.messages.show({*problem, "", tamsic::MsgIcon::None, tamsic::MsgButtons::Ok});
-      return true;
-    }
-    return range(text);
-  };
 }
 
 void ReproSystemPage::layOut() {

@@ -32,5 +32,4 @@ class ReproSystemPage : public InputPage {
   void layOut();
   void wire();
   void viewFunction();
-  FieldBindings::Check wholeNumber(tamsic::Field field, double min, double max, int caption);
 };

@@ -11,15 +11,14 @@ using tamsic::F;
 
 ScenarioSettingsPage::ScenarioSettingsPage(const PageContext& context, QWidget* parent)
     : InputPage(context, 0, parent) {
-  txtSceneName = textBox("txtSceneName", F("txtSceneName"), 1,
-                         [this](const QString& name) { return refuseName(name); });
-  txtNumIter = textBox("txtNumIter", F("txtNumIter"), 2, limits(1, 100000, context.text(9)));
-  txtNumYear = textBox("txtNumYear", F("txtNumYear"), 3, limits(1, 2000, context.text(10)));
-  txtNumDays = textBox("txtNumDays", F("txtNumDays"), 4, limits(1, 3650, context.text(11)));
-  optExtinctDef_0 = option("optExtinctDef_0", F("optExtinctDef_0"), 13, 5);
-  optExtinctDef_1 = option("optExtinctDef_1", F("optExtinctDef_1"), 14, 16);
-  txtExtinctN = textBox("txtExtinctN", F("txtExtinctN"), 6, limits(0, 30000, context.text(14)));
-  txtNumPop = textBox("txtNumPop", F("txtNumPop"), 7, limits(1, 50, context.text(15)));
+  txtSceneName = textBox("txtSceneName", F("txtSceneName"), [this](const QString& name) { return refuseName(name); });
+  txtNumIter = textBox("txtNumIter", F("txtNumIter"));
+  txtNumYear = textBox("txtNumYear", F("txtNumYear"));
+  txtNumDays = textBox("txtNumDays", F("txtNumDays"));
+  optExtinctDef_0 = option("optExtinctDef_0", F("optExtinctDef_0"));
+  optExtinctDef_1 = option("optExtinctDef_1", F("optExtinctDef_1"));
+  txtExtinctN = textBox("txtExtinctN", F("txtExtinctN"));
+  txtNumPop = textBox("txtNumPop", F("txtNumPop"));
   layOut();
   wire();
 }

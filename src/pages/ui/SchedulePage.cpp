@@ -12,12 +12,9 @@ SchedulePage::SchedulePage(const PageContext& context, const ScheduleNumbers& nu
                            const char* females, const char* males, tamsic::Field scheduleField,
                            tamsic::Field femaleField, tamsic::Field maleField, QWidget* parent)
     : InputPage(context, numbers.title, parent) {
-  schedule_ = gridView(schedule, scheduleField, numbers.hintBase);
-  schedule_->grid()->cellUse = [](int row, int) { return row == 1 ? CellUse::CheckBox : CellUse::Value; };
-  const int base = numbers.hintBase;
-  schedule_->hintOf = [base](int row, int) { return row >= 1 && row <= 5 ? base + 2 + row : base; };
-  females_ = gridView(females, femaleField, base + 1);
-  males_ = gridView(males, maleField, base + 2);
+  schedule_ = gridView(schedule, scheduleField);
+  females_ = gridView(females, femaleField);
+  males_ = gridView(males, maleField);
 
   auto* frame = new QGroupBox(context.text(numbers.frame), this);
   (new QVBoxLayout(frame))->addWidget(schedule_);
@@ -36,14 +33,14 @@ SchedulePage::SchedulePage(const PageContext& context, const ScheduleNumbers& nu
 }
 
 HarvestPage::HarvestPage(const PageContext& context, QWidget* parent)
-    : SchedulePage(context, {1100, 1101, 1109, 1110, 1112}, "gridHarvest", "gridHarvestF", "gridHarvestM",
+    : SchedulePage(context, {1100, 1109, 1110, 1112}, "gridHarvest", "gridHarvestF", "gridHarvestM",
                    F("gridHarvest"), F("gridHarvestF"), F("gridHarvestM"), parent),
       gridHarvest(schedule_),
       gridHarvestF(females_),
       gridHarvestM(males_) {}
 
 SupplementPage::SupplementPage(const PageContext& context, QWidget* parent)
-    : SchedulePage(context, {1200, 1201, 1209, 1210, 1212}, "gridSuppl", "gridSupplF", "gridSupplM",
+    : SchedulePage(context, {1200, 1209, 1210, 1212}, "gridSuppl", "gridSupplF", "gridSupplM",
                    F("gridSuppl"), F("gridSupplF"), F("gridSupplM"), parent),
       gridSuppl(schedule_),
       gridSupplF(females_),

@@ -6,7 +6,6 @@
 
 struct ScheduleNumbers {
   int title;
-  int hintBase;  // schedule grid hint; +1 females, +2 males, +3 .. +7 the schedule rows
   int femaleTitle;
   int maleTitle;
   int frame;

@@ -12,13 +12,12 @@
 using tamsic::F;
 
 SpeciesPage::SpeciesPage(const PageContext& context, QWidget* parent) : InputPage(context, 100, parent) {
-  chkDepress = checkBox("chkDepress", F("chkDepress"), 107, 101);
-  txtLethalEquiv = textBox("txtLethalEquiv", F("txtLethalEquiv"), 102, limits(0, 100, context.text(108)));
-  txtPercentLethal = textBox("txtPercentLethal", F("txtPercentLethal"), 103, limits(0, 100, context.text(109)));
-  chkEVConcord = checkBox("chkEVConcord", F("chkEVConcord"), 110, 104);
-  txtEV = textBox("txtEV", F("txtEV"), 105, limits(-1, 1, context.text(111)));
-  txtNumCatast = textBox("txtNumCatast", F("txtNumCatast"), 106,
-                         limits(0, tamsic::kMaxCatastrophes, context.text(113)));
+  chkDepress = checkBox("chkDepress", F("chkDepress"));
+  txtLethalEquiv = textBox("txtLethalEquiv", F("txtLethalEquiv"));
+  txtPercentLethal = textBox("txtPercentLethal", F("txtPercentLethal"));
+  chkEVConcord = checkBox("chkEVConcord", F("chkEVConcord"));
+  txtEV = textBox("txtEV", F("txtEV"));
+  txtNumCatast = textBox("txtNumCatast", F("txtNumCatast"));
   layOut();
   wire();
 }

@@ -1,4 +1,4 @@
-#include "functions/CellValue.h"
+#include "model/CellValue.h"
 
 #include <charconv>
 
