@@ -4,7 +4,7 @@
 #include <sstream>
 #include <utility>
 
-#include "app/Errors.h"
+#include "model/Errors.h"
 #include "model/TextSplit.h"
 
 namespace tamsic {

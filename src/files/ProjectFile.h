@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Messages.h"
 #include "files/clsSaveFile.h"
+#include "model/Messages.h"
 #include "model/ProjectDocument.h"
 
 namespace tamsic {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 #include "model/ProjectDocument.h"
 
 namespace tamsic {

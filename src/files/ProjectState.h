@@ -3,7 +3,7 @@
 // whether it has been saved, and whether it changed since.
 #include <string>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 #include "model/ProjectDocument.h"
 
 namespace tamsic {

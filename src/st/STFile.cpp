@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Errors.h"
+#include "model/Errors.h"
 #include "model/TextNumbers.h"
 
 namespace tamsic {

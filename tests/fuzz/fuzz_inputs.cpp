@@ -5,8 +5,8 @@
 
 #include "SilentBox.h"
 #include "app/EnglishMessages.h"
-#include "app/Errors.h"
 #include "files/clsSaveFile.h"
+#include "model/Errors.h"
 #include "pages/InputHelpers.h"
 #include "st/STFile.h"
 

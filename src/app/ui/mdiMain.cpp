@@ -13,7 +13,6 @@
 #include <QScreen>
 #include <QToolBar>
 
-#include "app/Errors.h"
 #include "app/ui/FileFilter.h"
 #include "app/ui/Program.h"
 #include "app/ui/ThemeIcon.h"
@@ -25,6 +24,7 @@
 #include "files/AtomicFile.h"
 #include "files/ProjectOpen.h"
 #include "files/TextCodec.h"
+#include "model/Errors.h"
 #include "model/NewProject.h"
 #include "pages/ui/frmProject.h"
 

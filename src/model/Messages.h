@@ -1,0 +1,74 @@
+#pragma once
+// The one road by which the core asks the user something or tells them of a
+// failure. The GUI shows a real message box, the command line prints to
+// stderr, tests record every request; the core never includes a window toolkit.
+#include <string>
+
+namespace tamsic {
+
+enum class MsgIcon { None, Critical, Question, Exclamation, Information };
+enum class MsgButtons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class MsgAnswer { Ok, Cancel, Yes, No };
+
+struct MessageBoxRequest {
+  std::string text;
+  std::string caption;
+  MsgIcon icon = MsgIcon::None;
+  MsgButtons buttons = MsgButtons::Ok;
+};
+
+class IMessageBox {
+ public:
+  virtual ~IMessageBox() = default;
+  virtual MsgAnswer show(const MessageBoxRequest& request) = 0;
+};
+
+// Looks up a message by its number relative to the language (9110, not 19110).
+// A number missing from the table yields an empty text.
+class IStringTable {
+ public:
+  virtual ~IStringTable() = default;
+  virtual std::string text(int number) const = 0;
+};
+
+// What core code holds: the box to show messages in and the table their texts
+// come from, passed in by whoever owns the window or the command.
+class Messages {
+ public:
+  Messages(IMessageBox& box, const IStringTable& strings) : box_(box), strings_(strings) {}
+
+  std::string text(int number) const { return strings_.text(number); }
+  MsgAnswer show(const MessageBoxRequest& request) { return box_.show(request); }
+  MsgAnswer show(std::string text, int captionNumber, MsgIcon icon,
+                 MsgButtons buttons = MsgButtons::Ok) {
+    return box_.show({std::move(text), strings_.text(captionNumber), icon, buttons});
+  }
+
+ private:
+  IMessageBox& box_;
+  const IStringTable& strings_;
+};
+
+// Message numbers the core uses, so that a typo is a compile error.
+namespace msg {
+inline constexpr int kReorderCaution = 8007;
+inline constexpr int kWarning = 9103;
+inline constexpr int kUnableToRunSimulation = 9110;
+inline constexpr int kError = 9111;
+inline constexpr int kConfirmation = 9115;
+inline constexpr int kFillDensityValues = 9116;
+inline constexpr int kCheckDensityBox = 9117;
+inline constexpr int kConfirmDeleteScenario = 9121;
+inline constexpr int kInvalidInput = 9132;
+inline constexpr int kNumericOrFunction = 9133;
+inline constexpr int kSignSuffix = 9134;
+inline constexpr int kDispersalAges = 9135;
+inline constexpr int kProjectNameMismatch = 9136;
+inline constexpr int kChangeProjectName = 9137;
+inline constexpr int kProjectDoesNotExist = 9139;
+inline constexpr int kProblemWithData = 9143;
+inline constexpr int kModifiedManually = 9144;
+inline constexpr int kUnableToFindSection = 9145;
+}  // namespace msg
+
+}  // namespace tamsic
