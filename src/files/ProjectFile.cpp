@@ -4,11 +4,11 @@
 #include <filesystem>
 
 #include "files/AtomicFile.h"
+#include "files/STFile.h"
 #include "files/TextCodec.h"
 #include "model/Errors.h"
 #include "model/TextNumbers.h"
 #include "model/TextSplit.h"
-#include "st/STFile.h"
 
 namespace tamsic {
 

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "files/ProjectDocument.h"
 #include "files/clsSaveFile.h"
 #include "model/Messages.h"
-#include "model/ProjectDocument.h"
 
 namespace tamsic {
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "files/ProjectDocument.h"
 #include "model/Messages.h"
-#include "model/ProjectDocument.h"
 
 namespace tamsic {
 

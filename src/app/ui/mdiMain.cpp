@@ -22,10 +22,10 @@
 #include "app/ui/frmSettings.h"
 #include "app/ui/frmWelcome.h"
 #include "files/AtomicFile.h"
+#include "files/NewProject.h"
 #include "files/ProjectOpen.h"
 #include "files/TextCodec.h"
 #include "model/Errors.h"
-#include "model/NewProject.h"
 #include "pages/ui/frmProject.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "st/STFile.h"
+#include "files/STFile.h"
 
 #include <cfenv>
 #include <cmath>
