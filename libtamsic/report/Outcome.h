@@ -4,11 +4,15 @@
 #include <string>
 #include <vector>
 
+#include "model/TextSplit.h"
 #include "sim/LifeTable.h"
 #include "sim/Model.h"
 #include "sim/Results.h"
 
 namespace tamsic::report {
+
+// sim/ReadModel.cpp still spells the core's Trim as report::Trim.
+using tamsic::Trim;
 
 struct Outcome {
   const sim::Model& model;
@@ -26,7 +30,6 @@ struct Outcome {
 
 // File names in the current directory: project title and scenario name, both trimmed.
 std::string ScenarioFile(const std::string& project, const std::string& scenario, const std::string& extension);
-std::string Trim(const std::string& text);
 
 void WriteYearlyData(const Outcome& outcome, const std::string& path);
 void WriteRunTable(const Outcome& outcome, const std::string& path);
