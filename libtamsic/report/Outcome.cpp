@@ -1,6 +1,6 @@
 #include "report/Outcome.h"
 
-#include "engine/OutputFiles.h"
+#include "files/OutputNames.h"
 
 namespace tamsic::report {
 

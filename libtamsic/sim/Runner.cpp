@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <random>
 
-#include "engine/OutputFiles.h"
+#include "files/OutputNames.h"
 #include "model/TextNumbers.h"
 #include "model/TextSplit.h"
 #include "report/ExtraFiles.h"
