@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "StderrMessageBox.h"
-#include "app/Messages.h"
 #include "files/ProjectOpen.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

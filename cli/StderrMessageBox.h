@@ -1,7 +1,7 @@
 #pragma once
 // Messages of a command-line run go to stderr. Questions get the cautious
 // answer, since nobody is there to reply.
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

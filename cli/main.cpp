@@ -12,10 +12,10 @@
 #include "RunCommand.h"
 #include "StderrMessageBox.h"
 #include "app/EnglishMessages.h"
-#include "app/Errors.h"
 #include "files/ProjectFile.h"
 #include "files/ProjectOpen.h"
 #include "files/TextCodec.h"
+#include "model/Errors.h"
 
 namespace tamsic {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "ExampleScenario.h"
 #include "app/EnglishMessages.h"
-#include "app/Errors.h"
 #include "files/ProjectFile.h"
+#include "model/Errors.h"
 
 namespace tamsic::examples {
 namespace {

@@ -7,16 +7,11 @@
 #include <fstream>
 #include <sstream>
 
+#include "model/TextSplit.h"
+
 namespace tamsic::formula {
 
 namespace {
-
-std::string_view Trim(std::string_view text) {
-  const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
-  while (!text.empty() && blank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && blank(text.back())) text.remove_suffix(1);
-  return text;
-}
 
 // "nan" and "inf" read as numbers but are none a simulation can use.
 std::optional<double> ReadNumber(std::string_view text) {

@@ -1,14 +1,8 @@
 #include "report/Outcome.h"
 
-#include "engine/OutputFiles.h"
+#include "files/OutputNames.h"
 
 namespace tamsic::report {
-
-std::string Trim(const std::string& text) {
-  const auto first = text.find_first_not_of(" \t");
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
 
 std::string ScenarioFile(const std::string& project, const std::string& scenario, const std::string& extension) {
   return ScenarioFileName(project, scenario, extension);

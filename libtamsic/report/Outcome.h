@@ -26,7 +26,6 @@ struct Outcome {
 
 // File names in the current directory: project title and scenario name, both trimmed.
 std::string ScenarioFile(const std::string& project, const std::string& scenario, const std::string& extension);
-std::string Trim(const std::string& text);
 
 void WriteYearlyData(const Outcome& outcome, const std::string& path);
 void WriteRunTable(const Outcome& outcome, const std::string& path);

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <vector>
 
+#include "model/TextSplit.h"
 #include "report/Outcome.h"
 #include "report/TextFile.h"
 
@@ -42,7 +43,7 @@ std::string SummaryLine(const Outcome& o) {
     growth.sum += m.sum;
     growth.sumSq += m.sumSq;
   }
-  return Trim(o.model.name) + ";" + std::to_string(year) + ";" + std::to_string(r.iterations()) + ";" +
+  return std::string(Trim(o.model.name)) + ";" + std::to_string(year) + ";" + std::to_string(r.iterations()) + ";" +
          Num(o.deterministicR(block)) + ";" + Num(growth.mean()) + ";" + Num(growth.sd()) + ";" + Num(extinct) +
          ";" + Num(s.extant.mean()) + ";" + Num(s.extant.sd()) + ";" + Num(s.all.mean()) + ";" + Num(s.all.sd()) +
          ";" + Num(s.geneDiversity.mean()) + ";" + Num(s.geneDiversity.sd()) + ";" + Num(s.inbreeding.mean()) + ";" +

@@ -1,6 +1,7 @@
 #include "sim/CellReader.h"
 
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 
 namespace tamsic::sim {
 
@@ -8,7 +9,7 @@ namespace {
 
 InputPlace Place(Field field) { return {std::string(Describe(field).key), {}, {}}; }
 
-bool Blank(const std::string& text) { return text.find_first_not_of(" \t") == std::string::npos; }
+bool Blank(const std::string& text) { return Trim(text).empty(); }
 
 void Check(const ValueRule& rule, const std::string& text, const InputPlace& place) {
   if (const auto fault = CheckValue(rule, text)) throw InputError({place, *fault, rule});

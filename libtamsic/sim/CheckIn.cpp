@@ -5,6 +5,7 @@
 #include <mutex>
 
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 #include "report/Outcome.h"
 #include "report/Reports.h"
 #include "report/TextFile.h"
@@ -50,7 +51,7 @@ std::shared_ptr<const Checked> Load(const std::string& text) {
   const auto close = text.rfind('}');
   if (open == std::string::npos || close == std::string::npos || close < open)
     throw SimError("\"" + text + "\" is not a project file followed by {scenario number}");
-  const std::string path = report::Trim(text.substr(0, open));
+  const std::string path(Trim(std::string_view(text).substr(0, open)));
   const auto number = ExactNumber(text.substr(open + 1, close - open - 1));
   const ProjectDocument project = ReadWorkFile(path);
   if (!number || *number < 1 || *number > static_cast<double>(project.scenarios.Count()))
@@ -110,7 +111,7 @@ std::string AgeDistribution(int size) {
 
 std::string DeterministicValues(const std::string& text, std::int32_t years) {
   return Answer([&] {
-    if (!report::Trim(text).empty()) CheckedIn::get().set(Load(text));
+    if (!Trim(text).empty()) CheckedIn::get().set(Load(text));
     const auto checked = CheckedIn::get().current();
     const std::vector<double> n = report::ProjectAll(checked->model, checked->tables, years);
     std::string reply;

@@ -5,15 +5,11 @@
 #include <charconv>
 #include <string>
 
+#include "model/TextSplit.h"
+
 namespace tamsic::sim {
 
 namespace {
-
-std::string_view Trim(std::string_view text) {
-  while (!text.empty() && std::isspace(static_cast<unsigned char>(text.front()))) text.remove_prefix(1);
-  while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back()))) text.remove_suffix(1);
-  return text;
-}
 
 std::string Upper(std::string_view text) {
   std::string upper;

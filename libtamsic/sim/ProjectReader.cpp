@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "app/EnglishMessages.h"
-#include "files/ProjectOpen.h"
+#include "files/ProjectFile.h"
+#include "files/ProjectSignature.h"
 #include "sim/SimError.h"
 
 namespace tamsic::sim {
@@ -21,18 +21,34 @@ class CollectingBox : public IMessageBox {
   std::string text;
 };
 
+// The texts of the messages the project reader shows about a damaged file,
+// so that the reply says what the desktop program would; the engine carries
+// none of the program's string table.
+class ReaderTexts : public IStringTable {
+ public:
+  std::string text(int number) const override {
+    switch (number) {
+      case msg::kUnableToFindSection: return "Unable to find section ";
+      case msg::kProblemWithData: return "There is a problem with the data";
+      case msg::kModifiedManually: return "Have you modified the data file manually?";
+      default: return {};
+    }
+  }
+};
+
 }  // namespace
 
 ProjectDocument ReadWorkFile(const std::string& path) {
   if (!std::filesystem::exists(path)) throw SimError("the project file " + path + " does not exist");
   CollectingBox box;
-  EnglishMessages strings;
+  ReaderTexts strings;
   Messages messages(box, strings);
   try {
-    auto opened = OpenProjectFile(path, messages, false);
-    if (!opened) throw SimError("the file " + path + " is not a Tamsic project file");
+    const auto version = IsTamsicProject(path, messages);
+    if (!version) throw SimError("the file " + path + " is not a Tamsic project file");
+    ProjectDocument project = LoadProject(path, *version, messages);
     if (!box.text.empty()) throw SimError("the project file " + path + " is damaged: " + box.text);
-    return std::move(opened->document);
+    return project;
   } catch (const SimError&) {
     throw;
   } catch (const std::exception& failure) {

@@ -3,7 +3,7 @@
 // messages the reader would show go into the error instead of a window.
 #include <string>
 
-#include "model/ProjectDocument.h"
+#include "files/ProjectDocument.h"
 
 namespace tamsic::sim {
 

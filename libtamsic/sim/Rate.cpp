@@ -5,6 +5,7 @@
 
 #include "formula/Formula.h"
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 #include "sim/SimContext.h"
 #include "sim/SimError.h"
 
@@ -14,12 +15,6 @@ using formula::Op;
 using formula::Var;
 
 namespace {
-
-std::string_view Trim(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
 
 bool UsesIndividual(const formula::Program& program) {
   for (Var var : {Var::A, Var::I, Var::O, Var::S, Var::V, Var::Z, Var::PARITY, Var::ID, Var::DAM, Var::SIRE,

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 #include "report/Outcome.h"
 #include "sim/CellReader.h"
 #include "sim/ReadPopulation.h"
@@ -69,7 +70,7 @@ void ReadSpecies(const CellReader& in, Model& m) {
     m.dispersalYoung = in.Whole(F("txtDispYoung"), 0);
     m.dispersalOld = in.Whole(F("txtDispOld"), kMaxAge);
     m.dispersalSurvival = in.TextRate(F("txtPercentDispSurvive"), 100.0);
-    if (!report::Trim(in.scenario().Text(F("txtDensDispersal"))).empty()) {
+    if (!Trim(in.scenario().Text(F("txtDensDispersal"))).empty()) {
       const Rate modifier = in.TextRate(F("txtDensDispersal"), 0.0);
       if (!modifier.isConstant()) m.dispersalModifier = modifier;
       else m.dispersalMinimum = modifier.constant();

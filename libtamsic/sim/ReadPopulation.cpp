@@ -11,10 +11,8 @@ namespace {
 
 using Row = std::size_t;
 
-std::string Trimmed(const std::string& text) { return std::string(Trim(text)); }
-
 bool Yes(const CellReader& in, Field grid, Row row, Row col) {
-  const std::string text = Trimmed(in.GridText(grid, row, col));
+  const std::string text = std::string(Trim(in.GridText(grid, row, col)));
   return !text.empty() && text != "0" && text != "False" && text != "false";
 }
 
@@ -32,7 +30,7 @@ void ReadCatastrophes(const CellReader& in, Row row, int count, PopulationModel&
   for (int c = 0; c < count; ++c) {
     const Row col = static_cast<Row>(2 * c + 1);
     Catastrophe cat;
-    const std::string kind = Trimmed(in.GridText(F("gridCatastrophes1"), row, col));
+    const std::string kind = std::string(Trim(in.GridText(F("gridCatastrophes1"), row, col)));
     if (kind != "Global" && kind != "Local" && !kind.empty())
       throw InputError({in.Where(F("gridCatastrophes1"), row, col), Fault::NotAPlace, PlaceCell()});
     cat.global = kind == "Global";
@@ -118,7 +116,7 @@ PopulationModel ReadPopulation(const CellReader& in, const Model& m, int pop, in
   const Row row = static_cast<Row>(pop + 1);
   PopulationModel p;
   const Grid& labels = in.scenario().GetGrid(F("gridPopLabels"));
-  p.label = row < labels.rows() && labels.cols() > 1 ? Trimmed(labels.at(row, 1)) : std::string();
+  p.label = row < labels.rows() && labels.cols() > 1 ? std::string(Trim(labels.at(row, 1))) : std::string();
   if (p.label.empty()) p.label = "Population " + std::to_string(pop + 1);
   p.breeding = in.GridRate(F("gridRepRates1"), row, 1, 0.0);
   p.breedingSD = in.GridRate(F("gridRepRates1"), row, 2, 0.0);

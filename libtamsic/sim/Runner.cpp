@@ -4,8 +4,9 @@
 #include <filesystem>
 #include <random>
 
-#include "engine/OutputFiles.h"
+#include "files/OutputNames.h"
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 #include "report/ExtraFiles.h"
 #include "report/Outcome.h"
 #include "sim/ProjectReader.h"
@@ -19,14 +20,14 @@ namespace tamsic::sim {
 namespace {
 
 std::vector<std::string> ScenarioNames(std::string list) {
-  list = report::Trim(list);
+  list = std::string(Trim(list));
   if (!list.empty() && list.front() == '{') list.erase(0, 1);
   if (!list.empty() && list.back() == '}') list.pop_back();
   std::vector<std::string> names;
   std::size_t start = 0;
   while (start <= list.size()) {
     const std::size_t end = std::min(list.find(',', start), list.size());
-    const std::string name = report::Trim(list.substr(start, end - start));
+    const std::string name(Trim(std::string_view(list).substr(start, end - start)));
     if (!name.empty()) names.push_back(name);
     start = end + 1;
   }

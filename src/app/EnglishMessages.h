@@ -1,7 +1,7 @@
 #pragma once
 // The English message-box texts, built into the core so that the command line
 // and the tests speak without the program's resource file.
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

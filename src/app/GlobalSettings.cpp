@@ -3,6 +3,8 @@
 #include <charconv>
 #include <string>
 
+#include "model/TextSplit.h"
+
 namespace tamsic {
 
 namespace {
@@ -11,12 +13,11 @@ constexpr int kDefault = 1;
 
 int ReadInteger(const ISettingsStore& store, const char* key) {
   const std::string text = store.GetSetting(kSettingsApplication, kGlobalSettingsSection, key, "");
-  const auto first = text.find_first_not_of(' ');
-  const auto last = text.find_last_not_of(' ');
-  if (first == std::string::npos) return kDefault;
+  const std::string_view digits = Trim(text);
+  if (digits.empty()) return kDefault;
   int value = kDefault;
-  const char* end = text.data() + last + 1;
-  const auto [stop, error] = std::from_chars(text.data() + first, end, value);
+  const char* end = digits.data() + digits.size();
+  const auto [stop, error] = std::from_chars(digits.data(), end, value);
   return error == std::errc() && stop == end ? value : kDefault;
 }
 

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/Errors.h"
+#include "model/Errors.h"
 
 // File format (UTF-8): one entry per line, "identifier<TAB>text". Lines that
 // are empty or start with '#' are ignored. In the text, "\n" is a line break,

@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

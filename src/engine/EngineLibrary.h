@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "app/Errors.h"
 #include "libtamsic/tamsic.h"
+#include "model/Errors.h"
 
 namespace tamsic {
 

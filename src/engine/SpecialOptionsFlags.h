@@ -6,7 +6,7 @@
 // string is not empty. E.g. S, Y with 5 and the extra code Q give "S;Y5;Q".
 #include <string>
 
-#include "model/ProjectDocument.h"
+#include "files/ProjectDocument.h"
 
 namespace tamsic {
 

@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "app/Errors.h"
+#include "model/Errors.h"
 
 namespace tamsic {
 

@@ -9,9 +9,9 @@
 #include <optional>
 #include <string>
 
-#include "app/Messages.h"
 #include "engine/BusyCursor.h"
 #include "engine/Engine.h"
+#include "model/Messages.h"
 
 namespace tamsic::basSimulation {
 

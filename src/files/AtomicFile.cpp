@@ -10,8 +10,8 @@
 #include <filesystem>
 #include <vector>
 
-#include "app/Errors.h"
 #include "files/TextCodec.h"
+#include "model/Errors.h"
 
 namespace tamsic {
 

@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-#include "app/Errors.h"
 #include "files/AtomicFile.h"
 #include "files/TextCodec.h"
+#include "model/Errors.h"
 
 namespace tamsic {
 

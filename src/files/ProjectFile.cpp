@@ -3,12 +3,12 @@
 #include <charconv>
 #include <filesystem>
 
-#include "app/Errors.h"
 #include "files/AtomicFile.h"
+#include "files/STFile.h"
 #include "files/TextCodec.h"
+#include "model/Errors.h"
 #include "model/TextNumbers.h"
 #include "model/TextSplit.h"
-#include "st/STFile.h"
 
 namespace tamsic {
 

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Messages.h"
+#include "files/ProjectDocument.h"
 #include "files/clsSaveFile.h"
-#include "model/ProjectDocument.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "app/Messages.h"
-#include "model/ProjectDocument.h"
+#include "files/ProjectDocument.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

@@ -2,10 +2,10 @@
 
 #include <filesystem>
 
-#include "app/Errors.h"
 #include "files/AtomicFile.h"
 #include "files/ProjectFile.h"
 #include "files/TextCodec.h"
+#include "model/Errors.h"
 
 namespace tamsic {
 

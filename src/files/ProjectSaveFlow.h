@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "app/Messages.h"
 #include "files/ProjectState.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

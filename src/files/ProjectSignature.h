@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

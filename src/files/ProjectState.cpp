@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "files/TextCodec.h"
+#include "model/TextSplit.h"
 
 namespace tamsic {
 
@@ -26,9 +27,7 @@ std::string ResultsFolder(const ProjectState& state) {
 
 std::string TrimmedTitle(const ProjectDocument& document) {
   const std::string title = Cp1252ToUtf8(document.title);
-  const auto first = title.find_first_not_of(" \t");
-  if (first == std::string::npos) return {};
-  return title.substr(first, title.find_last_not_of(" \t") - first + 1);
+  return std::string(Trim(title));
 }
 
 std::string ProjectCaption(const ProjectState& state, const IStringTable& strings) {

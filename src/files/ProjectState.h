@@ -3,8 +3,8 @@
 // whether it has been saved, and whether it changed since.
 #include <string>
 
-#include "app/Messages.h"
-#include "model/ProjectDocument.h"
+#include "files/ProjectDocument.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

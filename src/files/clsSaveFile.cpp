@@ -4,9 +4,9 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/Errors.h"
 #include "files/AtomicFile.h"
 #include "files/TextCodec.h"
+#include "model/Errors.h"
 #include "model/TextSplit.h"
 
 namespace tamsic {

@@ -21,8 +21,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "app/Messages.h"
 #include "model/Grid.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

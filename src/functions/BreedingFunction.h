@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

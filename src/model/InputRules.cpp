@@ -5,20 +5,16 @@
 
 #include "model/CellValue.h"
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 
 namespace tamsic {
 
 namespace {
 
-bool Blank(std::string_view text) { return text.find_first_not_of(" \t") == std::string_view::npos; }
-
-std::string_view Trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t");
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
+bool Blank(std::string_view text) { return Trim(text).empty(); }
 
 bool Computed(std::string_view text) {
-  const CellKind kind = ClassifyCell(Trimmed(text));
+  const CellKind kind = ClassifyCell(Trim(text));
   return kind == CellKind::Function || kind == CellKind::FileReference;
 }
 
@@ -34,7 +30,7 @@ std::optional<Fault> CheckNumber(const ValueRule& rule, std::string_view text) {
 
 // A check box in a grid writes 1 or 0; older files may hold a truth word or -1 for yes.
 std::optional<Fault> CheckSwitch(std::string_view text) {
-  const std::string_view word = Trimmed(text);
+  const std::string_view word = Trim(text);
   for (std::string_view yesOrNo : {"0", "1", "-1", "True", "False", "true", "false"})
     if (word == yesOrNo) return std::nullopt;
   return Fault::NotASwitch;
@@ -65,7 +61,7 @@ std::optional<Fault> CheckValue(const ValueRule& rule, std::string_view text) {
     case ValueKind::Text: return std::nullopt;
     case ValueKind::Switch: return CheckSwitch(text);
     case ValueKind::Place: {
-      const std::string_view word = Trimmed(text);
+      const std::string_view word = Trim(text);
       return word == "Local" || word == "Global" ? std::nullopt : std::optional(Fault::NotAPlace);
     }
     case ValueKind::Rate:

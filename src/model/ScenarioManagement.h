@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 #include "model/ScenarioCollection.h"
 
 namespace tamsic {

@@ -5,16 +5,11 @@
 #include <cmath>
 #include <string>
 
+#include "model/TextSplit.h"
+
 namespace tamsic {
 
 namespace {
-
-std::string_view TrimBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  const auto last = text.find_last_not_of(" \t");
-  return text.substr(first, last - first + 1);
-}
 
 // Parses a number at the start of the text; returns the count of characters used.
 std::size_t ParsePrefix(std::string_view text, double& value) {
@@ -31,12 +26,12 @@ std::size_t ParsePrefix(std::string_view text, double& value) {
 
 double LeadingNumber(std::string_view text) {
   double value = 0;
-  if (ParsePrefix(TrimBlanks(text), value) == 0 || !std::isfinite(value)) return 0;
+  if (ParsePrefix(Trim(text), value) == 0 || !std::isfinite(value)) return 0;
   return value;
 }
 
 std::optional<double> ExactNumber(std::string_view text) {
-  const std::string_view trimmed = TrimBlanks(text);
+  const std::string_view trimmed = Trim(text);
   double value = 0;
   if (trimmed.empty() || ParsePrefix(trimmed, value) != trimmed.size() || !std::isfinite(value))
     return std::nullopt;
@@ -50,7 +45,7 @@ int LeadingInt(std::string_view text) {
 }
 
 bool TextToTruth(std::string_view text) {
-  const std::string_view trimmed = TrimBlanks(text);
+  const std::string_view trimmed = Trim(text);
   std::string lower;
   for (char c : trimmed) lower += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
   if (lower == "true") return true;

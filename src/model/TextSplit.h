@@ -1,11 +1,12 @@
 #pragma once
-// A text cut at a separator: the pieces between separators, empty ones
-// included, as views into the text (which must outlive them).
+// Cutting texts: at a separator, and the blanks off their ends. Both answer
+// views into the text, which must outlive them.
 #include <string_view>
 #include <vector>
 
 namespace tamsic {
 
+// The pieces between separators, empty ones included.
 inline std::vector<std::string_view> Split(std::string_view text, char separator) {
   std::vector<std::string_view> parts;
   std::size_t start = 0;
@@ -16,10 +17,6 @@ inline std::vector<std::string_view> Split(std::string_view text, char separator
   parts.push_back(text.substr(start));
   return parts;
 }
-
-}  // namespace tamsic
-
-namespace tamsic {
 
 // The text without blanks, tabs and line ends at either end.
 inline std::string_view Trim(std::string_view text) {

@@ -5,7 +5,7 @@
 // reproductive rates; the last row of each exact distribution; the values
 // some boxes take when they are filled in or left blank. Kept apart from the
 // widgets so that the pages only show the result.
-#include "app/Messages.h"
+#include "model/Messages.h"
 #include "model/clsScenario.h"
 
 namespace tamsic {

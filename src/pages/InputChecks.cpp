@@ -6,6 +6,7 @@
 #include "engine/EngineLibrary.h"
 #include "model/CellValue.h"
 #include "model/TextNumbers.h"
+#include "model/TextSplit.h"
 
 namespace tamsic {
 
@@ -21,7 +22,7 @@ std::string Fixed2(double value) {
   return buffer;
 }
 
-bool Blank(std::string_view text) { return text.find_first_not_of(" \t") == std::string_view::npos; }
+bool Blank(std::string_view text) { return Trim(text).empty(); }
 
 bool TakesFunctions(const ValueRule& rule) {
   return rule.kind == ValueKind::Rate || rule.kind == ValueKind::WholeRate;

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 #include "engine/Engine.h"
 #include "model/Grid.h"
 #include "model/InputRules.h"

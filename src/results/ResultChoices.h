@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 #include "model/clsScenario.h"
 #include "results/YearlyData.h"
 

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 namespace tamsic {
 

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 #include "results/ResultChoices.h"
 #include "results/YearlyData.h"
 

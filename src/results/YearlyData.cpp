@@ -6,7 +6,7 @@
 #include <limits>
 #include <string>
 
-#include "app/Errors.h"
+#include "model/Errors.h"
 #include "model/TextNumbers.h"
 #include "model/TextSplit.h"
 #include "results/ResultVariables.h"

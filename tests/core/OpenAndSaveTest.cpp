@@ -6,10 +6,10 @@
 #include <fstream>
 
 #include "ProjectSamples.h"
-#include "app/Errors.h"
 #include "files/ProjectFile.h"
 #include "files/ProjectOpen.h"
 #include "files/ProjectSignature.h"
+#include "model/Errors.h"
 #include "support/FullDisk.h"
 #include "support/RecordingMessageBox.h"
 #include "support/TestFolder.h"

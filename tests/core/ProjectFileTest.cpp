@@ -4,8 +4,8 @@
 #include <fstream>
 
 #include "ProjectSamples.h"
-#include "app/Errors.h"
 #include "files/ProjectFile.h"
+#include "model/Errors.h"
 #include "support/RecordingMessageBox.h"
 #include "support/TestFolder.h"
 

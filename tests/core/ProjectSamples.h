@@ -1,6 +1,6 @@
 #pragma once
 // Records with every field set to a value of its own, for round trips.
-#include "model/ProjectDocument.h"
+#include "files/ProjectDocument.h"
 
 namespace tamsic::test {
 

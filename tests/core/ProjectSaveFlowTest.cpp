@@ -6,9 +6,9 @@
 #include "ProjectSamples.h"
 #include "app/EnglishMessages.h"
 #include "app/StringTable.h"
+#include "files/NewProject.h"
 #include "files/ProjectFile.h"
 #include "files/ProjectSaveFlow.h"
-#include "model/NewProject.h"
 #include "support/TestFolder.h"
 
 namespace tamsic {

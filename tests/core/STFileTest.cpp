@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "st/STFile.h"
+#include "files/STFile.h"
 #include "support/RecordingMessageBox.h"
 
 namespace tamsic {

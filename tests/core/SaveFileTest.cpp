@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "app/Errors.h"
 #include "files/clsSaveFile.h"
+#include "model/Errors.h"
 #include "support/RecordingMessageBox.h"
 
 namespace tamsic {

@@ -4,6 +4,7 @@
 
 #include "engine/OutputFiles.h"
 #include "engine/RunList.h"
+#include "files/OutputNames.h"
 #include "support/TestFolder.h"
 
 namespace tamsic {

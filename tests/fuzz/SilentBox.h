@@ -1,6 +1,6 @@
 #pragma once
 // Messages for fuzz targets: every one is answered and none is shown.
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 class SilentBox : public tamsic::IMessageBox {
  public:

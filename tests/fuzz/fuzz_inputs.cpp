@@ -5,10 +5,10 @@
 
 #include "SilentBox.h"
 #include "app/EnglishMessages.h"
-#include "app/Errors.h"
+#include "files/STFile.h"
 #include "files/clsSaveFile.h"
+#include "model/Errors.h"
 #include "pages/InputHelpers.h"
-#include "st/STFile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text(reinterpret_cast<const char*>(data), size);

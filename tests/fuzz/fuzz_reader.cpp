@@ -5,8 +5,8 @@
 
 #include "SilentBox.h"
 #include "app/EnglishMessages.h"
-#include "app/Errors.h"
 #include "files/ProjectFile.h"
+#include "model/Errors.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   SilentBox box;

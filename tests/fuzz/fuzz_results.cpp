@@ -4,8 +4,8 @@
 #include <sstream>
 #include <string>
 
-#include "app/Errors.h"
 #include "engine/OutputFiles.h"
+#include "model/Errors.h"
 #include "model/clsScenario.h"
 #include "results/YearlyData.h"
 

@@ -3,11 +3,11 @@
 
 #include <cmath>
 
-#include "app/Errors.h"
+#include "ResultsData.h"
+#include "model/Errors.h"
 #include "results/GraphSeries.h"
 #include "results/ResultVariables.h"
 #include "results/YearlyData.h"
-#include "ResultsData.h"
 #include "support/TestFolder.h"
 
 namespace tamsic {

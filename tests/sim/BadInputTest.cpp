@@ -125,6 +125,22 @@ TEST(SimBadInput, AFullDiskLeavesTheEarlierFilesAsTheyWere) {
   std::filesystem::remove_all(folder);
 }
 
+TEST(SimBadInput, ADamagedProjectFileIsNamedWithWhatTheReaderFound) {
+  const std::filesystem::path folder = SaveTestProject({Base()});
+  const std::string saved = ReadAll(folder / "T.tpj");
+  const auto reply = [&](const std::string& text) {
+    std::ofstream(folder / "D.tpj", std::ios::binary) << text;
+    return sim::RunScenarios((folder / "D.tpj").string(), "{Base}", "SEED1");
+  };
+  const std::string cut = reply(saved.substr(0, saved.find("[1 Mortality]")));
+  EXPECT_NE(cut.find("Unable to find section 1 Mortality"), std::string::npos) << cut;
+  std::string ragged = saved;
+  ragged.replace(ragged.find("MortMales={Empty;"), 17, "MortMales={");
+  const std::string damaged = reply(ragged);
+  EXPECT_NE(damaged.find("There is a problem with the data"), std::string::npos) << damaged;
+  std::filesystem::remove_all(folder);
+}
+
 TEST(SimBadInput, NoPopulations) {
   SimScenario s = Base();
   s.text(F("txtNumPop"), "0");

@@ -27,7 +27,7 @@ std::string ReadAll(const fs::path& path) {
 
 // The named constants of namespace msg in Messages.h.
 std::map<std::string, int> NamedMessages() {
-  const std::string header = ReadAll(fs::path(TAMSIC_SOURCE_DIR) / "src/app/Messages.h");
+  const std::string header = ReadAll(fs::path(TAMSIC_SOURCE_DIR) / "src/model/Messages.h");
   const auto start = header.find("namespace msg");
   const auto end = header.find("}  // namespace msg");
   const std::string block = header.substr(start, end - start);
@@ -48,7 +48,7 @@ std::map<int, std::string> UsedNumbers(const std::map<std::string, int>& named) 
       R"(\w*(?:[Ss]trings?|[Mm]essages?|[Tt]able)\w*\s*(?:\.|->)\s*text\s*\(\s*(\d{1,4})\s*\))");
   const std::regex literalCaption(R"(\bshow\([^;]*?,\s*(\d{1,4})\s*,\s*MsgIcon::)");
   std::map<int, std::string> used;
-  for (const auto& value : named) used[value.second] = "src/app/Messages.h";
+  for (const auto& value : named) used[value.second] = "src/model/Messages.h";
   for (const char* root : {"src", "cli", "ui"}) {
     const fs::path top = fs::path(TAMSIC_SOURCE_DIR) / root;
     if (!fs::exists(top)) continue;

@@ -5,8 +5,8 @@
 #include <fstream>
 #include <string>
 
-#include "app/Errors.h"
 #include "app/StringTable.h"
+#include "model/Errors.h"
 
 namespace tamsic {
 namespace {

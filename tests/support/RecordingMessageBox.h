@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "app/EnglishMessages.h"
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 namespace tamsic::test {
 

@@ -6,10 +6,10 @@
 #include <functional>
 
 #include "app/GlobalSettings.h"
-#include "app/Messages.h"
 #include "app/RecentProjects.h"
 #include "app/StringTable.h"
 #include "files/ProjectSaveFlow.h"
+#include "model/Messages.h"
 
 struct Program {
   Program(tamsic::StringTable& table, tamsic::ISettingsStore& settingsStore, tamsic::IMessageBox& box,

@@ -2,7 +2,7 @@
 // The message box the core's messages appear in: a QMessageBox with the
 // request's icon and buttons, titled with the program's name when the request
 // has no caption.
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 class QtMessageBox : public tamsic::IMessageBox {
  public:

@@ -7,7 +7,6 @@
 #include <QPointer>
 #include <QTimer>
 
-#include "app/Errors.h"
 #include "app/ui/Program.h"
 #include "app/ui/ProgramIcon.h"
 #include "app/ui/QtMessageBox.h"
@@ -17,6 +16,7 @@
 #include "app/ui/mdiMain.h"
 #include "engine/Engine.h"
 #include "engine/EngineLibrary.h"
+#include "model/Errors.h"
 
 namespace {
 

@@ -13,7 +13,6 @@
 #include <QScreen>
 #include <QToolBar>
 
-#include "app/Errors.h"
 #include "app/ui/FileFilter.h"
 #include "app/ui/Program.h"
 #include "app/ui/ThemeIcon.h"
@@ -23,9 +22,10 @@
 #include "app/ui/frmSettings.h"
 #include "app/ui/frmWelcome.h"
 #include "files/AtomicFile.h"
+#include "files/NewProject.h"
 #include "files/ProjectOpen.h"
 #include "files/TextCodec.h"
-#include "model/NewProject.h"
+#include "model/Errors.h"
 #include "pages/ui/frmProject.h"
 
 namespace {

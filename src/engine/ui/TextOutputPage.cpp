@@ -18,12 +18,12 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/Errors.h"
 #include "app/ui/Program.h"
 #include "engine/OutputFiles.h"
-#include "results/TableExport.h"
 #include "files/AtomicFile.h"
 #include "files/TextCodec.h"
+#include "model/Errors.h"
+#include "results/TableExport.h"
 
 namespace {
 

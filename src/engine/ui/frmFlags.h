@@ -5,7 +5,7 @@
 #include <QDialog>
 #include <array>
 
-#include "model/ProjectDocument.h"
+#include "files/ProjectDocument.h"
 
 struct Program;
 class QCheckBox;

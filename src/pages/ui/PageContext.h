@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 #include "engine/Engine.h"
 #include "model/clsScenario.h"
 

@@ -15,7 +15,7 @@
 #include <QUndoStack>
 #include <QVBoxLayout>
 
-#include "app/Errors.h"
+#include "model/Errors.h"
 #include "app/ui/Program.h"
 #include "engine/OutputFiles.h"
 #include "engine/SpecialOptionsFlags.h"

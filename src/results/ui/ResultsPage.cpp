@@ -20,10 +20,10 @@
 #include <fstream>
 #include <set>
 
-#include "app/Errors.h"
 #include "app/ui/Program.h"
 #include "engine/OutputFiles.h"
 #include "files/TextCodec.h"
+#include "model/Errors.h"
 #include "model/TextSplit.h"
 #include "results/GraphSeries.h"
 #include "results/ResultVariables.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Messages.h"
+#include "model/Messages.h"
 
 class QListWidget;
 class QPushButton;

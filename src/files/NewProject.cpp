@@ -1,4 +1,4 @@
-#include "model/NewProject.h"
+#include "files/NewProject.h"
 
 #include "files/TextCodec.h"
 #include "model/NewScenario.h"

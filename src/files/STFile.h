@@ -2,8 +2,8 @@
 // The "ST Data" section of the project file.
 #include <string_view>
 
-#include "app/Messages.h"
 #include "files/clsSaveFile.h"
+#include "model/Messages.h"
 #include "st/STScheme.h"
 
 namespace tamsic {

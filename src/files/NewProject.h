@@ -3,7 +3,7 @@
 // the user among its users and one scenario of believable values.
 #include <string>
 
-#include "model/ProjectDocument.h"
+#include "files/ProjectDocument.h"
 
 namespace tamsic {
 

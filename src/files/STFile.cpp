@@ -1,4 +1,4 @@
-#include "st/STFile.h"
+#include "files/STFile.h"
 
 #include <cfenv>
 #include <cmath>
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Errors.h"
+#include "model/Errors.h"
 #include "model/TextNumbers.h"
 
 namespace tamsic {

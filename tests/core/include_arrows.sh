@@ -1,0 +1,45 @@
+#!/bin/sh
+# The core's includes run one way, so that each part builds on the parts below
+# it and the engine library needs only the small core library:
+#   model <- st <- files: model includes only model, st only model and st,
+#     files only model, st and files;
+#   the engine binding (src/engine) includes nothing of the application
+#     (src/app), and the engine library nothing of the core but model, st and
+#     files, which tamsic_project holds;
+#   only a ui/ folder includes a header from a ui/ folder.
+# Prints each include that runs the wrong way and fails when there is one.
+set -u
+cd "$1" || exit 2
+found=0
+
+# includes FOLDER...: every '#include "..."' line outside ui/ folders.
+includes() {
+  grep -rnE '^#include +"' --include=*.h --include=*.cpp "$@" | grep -v '/ui/[^:]*:'
+}
+
+# refuse WHY PATTERN FOLDER...: includes whose path matches PATTERN are wrong.
+refuse() {
+  why="$1"; pattern="$2"; shift 2
+  wrong=$(includes "$@" | grep -E "#include +\"($pattern)")
+  if [ -n "$wrong" ]; then
+    echo "$why:"; echo "$wrong"; found=1
+  fi
+}
+
+# only WHY ALLOWED FOLDER: includes of a core folder other than ALLOWED are wrong.
+only() {
+  why="$1"; allowed="$2"; folder="$3"
+  wrong=$(includes "$folder" | grep -vE "#include +\"($allowed)/")
+  if [ -n "$wrong" ]; then
+    echo "$why:"; echo "$wrong"; found=1
+  fi
+}
+
+only "model includes only model" 'model' "src/model"
+only "st includes only model and st" 'model|st' "src/st"
+only "files includes only model, st and files" 'model|st|files' "src/files"
+refuse "the engine binding includes nothing of the application" 'app/' "src/engine"
+refuse "the engine library includes of the core only model, st and files" '(app|engine|functions|pages|results)/' "libtamsic"
+refuse "only ui/ folders include ui/ headers" '([^"]*/)?ui/' "src" "cli" "libtamsic"
+
+exit "$found"
