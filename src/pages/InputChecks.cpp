@@ -100,11 +100,10 @@ bool TestTextBoxFunctions(Field box, std::string_view text, const std::string& c
 std::optional<std::string> WholeNumberProblem(Field box, std::string_view text) {
   const auto value = ExactNumber(text);
   if (!value || std::trunc(*value) == *value) return std::nullopt;
-  const std::string_view member = Describe(box).member;
-  if (member == "txtAgeReproF" || member == "txtAgeReproM") return "Age of reproduction must be a integer value!";
-  if (member == "txtMaxAgeRepro") return "Maximum age must be a integer value!";
-  if (member == "txtMaxLitters") return "Maximum number of broods must be a integer value!";
-  if (member == "txtMaxProgeny") return "Maximum number of progeny must be a integer value!";
+  if (box == F("txtAgeReproF") || box == F("txtAgeReproM")) return "Age of reproduction must be a integer value!";
+  if (box == F("txtMaxAgeRepro")) return "Maximum age must be a integer value!";
+  if (box == F("txtMaxLitters")) return "Maximum number of broods must be a integer value!";
+  if (box == F("txtMaxProgeny")) return "Maximum number of progeny must be a integer value!";
   return std::nullopt;
 }
 

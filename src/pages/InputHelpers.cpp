@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "model/GridLayouts.h"
+#include "model/InputRules.h"
 #include "model/TextNumbers.h"
 #include "model/TextSplit.h"
 
@@ -121,12 +122,13 @@ std::vector<Field> PopulationGridsOfPage(int page) {
 void CopyInputValues(clsScenario& scenario, std::size_t from, const std::vector<Field>& grids) {
   for (Field field : grids) {
     // The exact distributions are one table for all populations: nothing to copy.
-    if (field == F("gridRepRates3") || field == F("gridRepRates4")) continue;
+    const GridShape shape = GridOf(field).shape;
+    if (shape == GridShape::Distribution) continue;
     Grid grid = scenario.GetGrid(field);
     const bool inColumns = PopulationsInColumns(field);
     const std::size_t populations = (inColumns ? grid.cols() : grid.rows());
     // A population's name is its own; only its state variables are copied.
-    const std::size_t firstValue = field == F("gridPopLabels") ? 2 : 1;
+    const std::size_t firstValue = shape == GridShape::PopulationLabels ? 2 : 1;
     for (std::size_t to = from + 1; to < populations; ++to) CopyPopulation(grid, inColumns, from, to, firstValue);
     scenario.SetGrid(field, std::move(grid));
   }
