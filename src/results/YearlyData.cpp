@@ -7,6 +7,7 @@
 #include <string>
 
 #include "model/Errors.h"
+#include "model/InputRules.h"
 #include "model/TextNumbers.h"
 #include "model/TextSplit.h"
 #include "results/ResultVariables.h"
@@ -16,7 +17,6 @@ namespace tamsic {
 namespace {
 
 constexpr int kNameSearchLines = 31;
-constexpr int kMaxYears = 100000;
 constexpr int kPSurviveField = 1;
 constexpr int kPSurviveSEField = 2;
 constexpr int kPExtinct = 31;
@@ -79,10 +79,13 @@ YearlyData ReadYearlyData(std::istream& in, const std::string& origin, const cls
   bool found = false;
   for (int n = 0; n < kNameSearchLines && !found && ReadLine(in, line); ++n) found = Trim(line) == name;
   if (!found) throw FileError(origin + ": no line with the scenario's name in its first 31 lines");
-  // The array is sized from the scenario before a line is read; a number of
-  // years no run can have is no reason to ask for gigabytes.
-  if (ShapeOf(scenario).years > kMaxYears)
-    throw FileError(origin + ": the scenario's number of years is above " + std::to_string(kMaxYears));
+  // The array is sized from the scenario before a line is read; counts no run
+  // can have (the engine refuses them) are no reason to ask for gigabytes.
+  for (Field count : {F("txtNumYear"), F("txtNumPop")}) {
+    const FieldDescriptor& d = Describe(count);
+    if (const auto fault = CheckValue(d.input.rule, scenario.Text(count)))
+      throw FileError(origin + ": " + InputFault{{std::string(d.key), {}, {}}, *fault, d.input.rule}.Text());
+  }
 
   YearlyData data(ShapeOf(scenario));
   const YearlyDataShape& shape = data.shape();

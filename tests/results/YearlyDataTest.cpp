@@ -85,6 +85,13 @@ TEST_F(YearlyDataTest, BrokenFilesFailWithTheReason) {
   // Written for 4 years while the scenario now has 3: the blocks do not line up.
   Write(DatText("Base", 3, 4));
   EXPECT_NE(Failure().find("block 2, year 0: the line is of another year"), std::string::npos) << Failure();
+  // A project edited by hand to counts no run can have: refused before any memory is asked for them.
+  Write(DatText("Base", 3, 3));
+  scenario.SetText(F("txtNumPop"), "99");
+  scenario.SetText(F("txtNumYear"), "999999");
+  EXPECT_NE(Failure().find("NumYears: the value must be at most 2000"), std::string::npos) << Failure();
+  scenario.SetText(F("txtNumYear"), "3");
+  EXPECT_NE(Failure().find("NumPop: the value must be at most 50"), std::string::npos) << Failure();
 }
 
 TEST_F(YearlyDataTest, GraphLinesAndBands) {
