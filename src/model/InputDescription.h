@@ -94,7 +94,7 @@ struct GridDescription {
   // A new scenario's values, line by line, for every population.
   std::span<const std::string_view> defaults;
   // The heading of counted columns before their number ("PS" makes PS1, PS2, ...).
-  std::string_view prefix;
+  std::string_view prefix = {};
 };
 
 // What the input pages and the engine know of one field beyond its place in

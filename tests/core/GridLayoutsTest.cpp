@@ -76,8 +76,12 @@ TEST(GridLayouts, EveryCellIsHeadedByTheLineItsRuleComesFrom) {
         const bool adults = d.lines == Lines::AgeClasses && heading == "Adults";  // the oldest class
         EXPECT_TRUE(adults || heading.starts_with(line->heading))
             << Describe(field).member << " (" << r << ", " << c << "): " << heading << " is not " << line->heading;
-        if (d.shape == GridShape::PopulationRows) EXPECT_EQ(grid.at(r, 0), counts.populations[r - 1]);
-        if (d.shape == GridShape::PopulationColumns) EXPECT_EQ(grid.at(0, c), counts.populations[c - 1]);
+        if (d.shape == GridShape::PopulationRows) {
+          EXPECT_EQ(grid.at(r, 0), counts.populations[r - 1]);
+        }
+        if (d.shape == GridShape::PopulationColumns) {
+          EXPECT_EQ(grid.at(0, c), counts.populations[c - 1]);
+        }
       }
   }
   EXPECT_GT(cells, 200);

@@ -72,8 +72,11 @@ class InputAgreement : public ::testing::Test {
     const std::string page = pageRefused ? recorder.box.shown.back().text : std::string();
     EXPECT_EQ(pageRefused, !probe.inside) << what << " = " << probe.text << ": " << page;
     EXPECT_EQ(engine.empty(), !pageRefused) << what << " = " << probe.text << ": " << engine;
-    if (pageRefused && !engine.empty() && !page.starts_with("Age of") && !page.starts_with("Maximum"))
-      EXPECT_NE(page.find(engine), std::string::npos) << "the page says \"" << page << "\", the engine \"" << engine << "\"";
+    // The four integer messages of the reproductive system keep their own words.
+    const bool ownWords = page.starts_with("Age of") || page.starts_with("Maximum");
+    if (pageRefused && !engine.empty() && !ownWords) {
+      EXPECT_NE(page.find(engine), std::string::npos) << "the page: " << page << "; the engine: " << engine;
+    }
   }
 
   MessageRecorder recorder;
