@@ -60,6 +60,12 @@ mdiMain::mdiMain(Program& program, QWidget* parent) : QMainWindow(parent), progr
     resize(screen->availableGeometry().size() * 95 / 100);
 }
 
+mdiMain::~mdiMain() {
+  // The project windows close after this object has stopped being an mdiMain;
+  // the area must not tell it that another one became active.
+  disconnect(mdiArea_, nullptr, this, nullptr);
+}
+
 QAction* mdiMain::action(const char* name, int caption) {
   auto* item = new QAction(text(caption), this);
   item->setObjectName(name);

@@ -17,6 +17,7 @@ class mdiMain : public QMainWindow {
   Q_OBJECT
  public:
   explicit mdiMain(Program& program, QWidget* parent = nullptr);
+  ~mdiMain() override;
 
   // Tests the signature, rotates the backups and opens a project window;
   // answers the window, or null when the file is missing, not a project or

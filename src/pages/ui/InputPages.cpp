@@ -88,6 +88,14 @@ void InputPages::layOut() {
   showPage(0);
 }
 
+InputPages::~InputPages() {
+  // The pages outlive this object's own part of the destruction, and a grid
+  // closing its editor on the way out still signals an edit: it must not reach
+  // an object that has stopped being InputPages.
+  for (int index = 0; index < kPageCount; ++index) disconnect(page(index), nullptr, this, nullptr);
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 void InputPages::wire() {
   for (int index = 0; index < kPageCount; ++index) {
     connect(page(index), &InputPage::edited, this, [this, index] { commit(index); });

@@ -28,6 +28,7 @@ class InputPages : public QWidget {
 
   InputPages(const PageContext& context, tamsic::ScenarioCollection& scenarios, QUndoStack& undo,
              QWidget* parent = nullptr);
+  ~InputPages() override;
 
   InputPage* page(int index) const { return pages_[static_cast<std::size_t>(index)]; }
   QString pageTitle(int index) const;
