@@ -28,13 +28,6 @@ TEST(GlobalSettings, AbsentOrUnreadableValuesFallBackToOne) {
   EXPECT_EQ(ReadGlobalSettings(store), (GlobalSettings{0, 0, 3}));
 }
 
-TEST(GlobalSettings, WrittenValuesReadBack) {
-  MemorySettingsStore store;
-  SaveSettings(store, {0, 1, 0});
-  EXPECT_EQ(store.GetSetting("Tamsic 9.99c", "GlobalSettings", "Language", ""), "0");
-  EXPECT_EQ(ReadGlobalSettings(store), (GlobalSettings{0, 1, 0}));
-}
-
 std::string Stored(const MemorySettingsStore& store, const std::string& key) {
   return store.GetSetting("RichEdit", "MRUList", key, "<absent>");
 }

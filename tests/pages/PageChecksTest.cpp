@@ -26,10 +26,8 @@ void PageChecksTest::textBoxes_data() {
   QTest::addColumn<QString>("message");
   QTest::newRow("years at the limit") << "txtNumYear" << "2000" << true << "";
   QTest::newRow("years above") << "txtNumYear" << "2001" << false << "Number of years: the value must be at most 2000.";
-  QTest::newRow("not a number") << "txtNumIter" << "many" << false << "Number of iterations: the value must be a number.";
   QTest::newRow("not a number nor a function") << "txtSexRatio" << "many" << false
                                                << "Sex ratio at birth (% Males): the value must be a number, a function";
-  QTest::newRow("EV correlation 1.01") << "txtEV" << "1.01" << false << "Correlation of EV among populations: the value must be at most 1.";
   QTest::newRow("female age 2.5") << "txtAgeReproF" << "2.5" << false << "Age of reproduction must be a integer value!";
   QTest::newRow("dispersal ages reversed") << "txtDispOld" << "0" << false
                                            << "The lower age for dispersal must be less than the upper age for dispersal";
@@ -77,10 +75,8 @@ void PageChecksTest::cells_data() {
   QTest::newRow("mortality function") << "gridMortMales" << 1 << 1 << "=N/K" << true << "";
   QTest::newRow("mortality file") << "gridMortMales" << 1 << 1 << "file=rates.txt" << true << "";
   QTest::newRow("mortality refused function") << "gridMortMales" << 1 << 1 << "=BAD" << false << "Error: BAD";
-  QTest::newRow("initial size 12.5") << "gridInitPopStable" << 1 << 1 << "12.5" << false << invalid;
   QTest::newRow("initial size emptied") << "gridInitPopStable" << 1 << 1 << "" << true << "";
   QTest::newRow("siring takes numbers only") << "gridDegMonop" << 2 << 1 << "=N" << false << invalid;
-  QTest::newRow("exact distribution function") << "gridRepRates3" << 1 << 1 << "=N" << false << invalid;
   QTest::newRow("harvest criterion") << "gridHarvest" << 5 << 1 << "=N>50" << true << "";
   QTest::newRow("state variable takes any text") << "gridIndividualStateParams" << 1 << 1 << "Weight" << true << "";
 }

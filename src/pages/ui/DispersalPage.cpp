@@ -12,7 +12,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "model/ScenarioShape.h"
 #include "model/TextNumbers.h"
 #include "pages/InputChecks.h"
 #include "pages/InputHelpers.h"

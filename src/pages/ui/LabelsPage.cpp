@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "model/ScenarioShape.h"
 #include "model/TextNumbers.h"
 #include "pages/StateVariablePresets.h"
 #include "pages/ui/GridView.h"

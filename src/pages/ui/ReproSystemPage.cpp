@@ -11,8 +11,6 @@
 #include <QVBoxLayout>
 
 #include "functions/BreedingFunction.h"
-#include "model/ScenarioShape.h"
-#include "pages/InputChecks.h"
 #include "pages/ui/GridView.h"
 
 using tamsic::F;

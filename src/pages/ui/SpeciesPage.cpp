@@ -7,7 +7,6 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "model/ScenarioShape.h"
 
 using tamsic::F;
 
