@@ -13,6 +13,7 @@ class PageChecksTest : public QObject {
   void textBoxes();
   void cells_data();
   void cells();
+  void aRefusedValueNeverOutlivesItsBox();
   void undoAndRedoAGridEdit();
   void undoFollowsTheEditAcrossPages();
   void undoOfACountRestoresTheGrids();
@@ -109,6 +110,40 @@ void PageChecksTest::cells() {
     QCOMPARE(editor->text(), text);
     QCOMPARE(editor->cursorPosition(), static_cast<int>(text.size()));
   }
+}
+
+// Checked each time the box is left, taken back while the user stays, and put
+// back to the stored value when the user moves on or presses Escape.
+void PageChecksTest::aRefusedValueNeverOutlivesItsBox() {
+  pagestest::Harness h;
+  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  const std::string atMost = "Number of years: the value must be at most 2000.";
+  QLineEdit* years = h.find<QLineEdit>("txtNumYear");
+  h.box.expect(atMost);
+  h.type("txtNumYear", "3000");
+  QTRY_VERIFY(years->hasFocus());
+  h.box.expect(atMost);
+  QTest::keyClick(years, Qt::Key_Tab);
+  QVERIFY(h.box.allShown());
+  QTRY_VERIFY(years->hasFocus());
+  QCOMPARE(years->text(), QString("3000"));
+  QTest::keyClick(years, Qt::Key_Escape);
+  QCOMPARE(years->text(), QString("100"));
+
+  h.box.expect(atMost);
+  h.type("txtNumYear", "3000");
+  h.box.expect(atMost);
+  h.pages->showPage(InputPages::Mortality);
+  QTRY_COMPARE(years->text(), QString("100"));
+
+  h.pages->showPage(InputPages::Settings);
+  h.box.expect(atMost);
+  h.type("txtNumYear", "2500");
+  h.box.expect(atMost);
+  h.pages->commitPending();
+  QCOMPARE(years->text(), QString("100"));
+  QCOMPARE(h.record().Text(F("txtNumYear")), std::string("100"));
+  QCOMPARE(h.undo.count(), 0);
 }
 
 void PageChecksTest::undoAndRedoAGridEdit() {

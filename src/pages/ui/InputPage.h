@@ -32,6 +32,8 @@ class InputPage : public QWidget {
 
   // Puts a text into one of the page's boxes as if the user had typed it.
   void enter(QLineEdit* box, const QString& text) { bindings_.enter(box, text); }
+  // Stores a box's pending text, or puts a refused one back: the box is being left for good.
+  void settle() { bindings_.settle(); }
 
  signals:
   // A user edit was accepted; the window records it for undo.

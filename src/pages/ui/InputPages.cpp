@@ -148,6 +148,7 @@ void InputPages::reload() {
 }
 
 void InputPages::commitPending() {
+  for (InputPage* page : pages_) page->settle();
   QWidget* focus = QApplication::focusWidget();
   if (focus && isAncestorOf(focus)) focus->clearFocus();
 }

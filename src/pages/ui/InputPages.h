@@ -46,7 +46,8 @@ class InputPages : public QWidget {
   void reload();
 
   // A box or cell being typed in has not been left yet; before a save or a
-  // run, leaving it checks and stores what it holds.
+  // run, leaving it checks and stores what it holds, or puts back the stored
+  // value of a box that its check refuses.
   void commitPending();
 
   // Record <-> pages, every field.
