@@ -7,6 +7,7 @@
 #include <cstring>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "model/Errors.h"
 
@@ -14,18 +15,38 @@ namespace tamsic {
 
 namespace {
 
+constexpr std::string_view kPrefix = "tpj";
+constexpr std::size_t kNameLength = 9;  // the prefix and mkstemp's six characters
+
 std::optional<std::filesystem::path> TryCreateIn(const std::filesystem::path& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (error) return std::nullopt;
-  std::string pattern = (folder / "tpjXXXXXX").string();
+  std::string pattern = (folder / (std::string(kPrefix) + "XXXXXX")).string();
   const int fd = mkstemp(pattern.data());
   if (fd < 0) return std::nullopt;
   ::close(fd);
   return std::filesystem::path(pattern);
 }
 
+int RemoveOldIn(const std::filesystem::path& folder, std::filesystem::file_time_type before) {
+  int removed = 0;
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+    const std::string name = entry.path().filename().string();
+    if (name.size() != kNameLength || !name.starts_with(kPrefix) || !entry.is_regular_file(error)) continue;
+    const auto written = entry.last_write_time(error);
+    if (!error && written < before && std::filesystem::remove(entry.path(), error)) ++removed;
+  }
+  return removed;
+}
+
 }  // namespace
+
+int RemoveOldWorkFiles(const std::filesystem::path& applicationFolder, std::chrono::hours age) {
+  const auto before = std::filesystem::file_time_type::clock::now() - age;
+  return RemoveOldIn(applicationFolder / "Temp", before) + RemoveOldIn(UserTempFolder(), before);
+}
 
 std::filesystem::path UserTempFolder() {
   return std::filesystem::temp_directory_path() / ("tamsic-" + std::to_string(getuid()));

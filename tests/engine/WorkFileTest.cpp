@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <fstream>
 
 #include "engine/WorkFile.h"
@@ -39,6 +40,29 @@ TEST_F(WorkFileFolder, UnwritableApplicationFolderFallsBackToTheUsersFolder) {
   const auto permissions = std::filesystem::status(UserTempFolder()).permissions();
   EXPECT_EQ(permissions & std::filesystem::perms::all, std::filesystem::perms::owner_all);
   std::filesystem::remove(file);
+}
+
+// A failed run's copy stays for a week; files the program did not make stay for good.
+TEST_F(WorkFileFolder, WorkFilesOlderThanAWeekGo) {
+  using std::chrono::hours;
+  const auto now = std::filesystem::file_time_type::clock::now();
+  const auto aged = [&](const std::filesystem::path& file, hours age) {
+    std::ofstream(file) << "x";
+    std::filesystem::last_write_time(file, now - age);
+    return file;
+  };
+  const hours week{24 * 7};
+  const auto stale = aged(CreateWorkFile(application), week + hours(1));
+  const auto recent = aged(CreateWorkFile(application), week - hours(1));
+  const auto usersOwn = aged(application / "Temp" / "tpjnotes.txt", week * 4);
+  const auto similar = aged(application / "Temp" / "tpj12345", week * 4);
+
+  EXPECT_EQ(RemoveOldWorkFiles(application, week), 1);
+  EXPECT_FALSE(std::filesystem::exists(stale));
+  EXPECT_TRUE(std::filesystem::exists(recent));
+  EXPECT_TRUE(std::filesystem::exists(usersOwn));
+  EXPECT_TRUE(std::filesystem::exists(similar));
+  EXPECT_EQ(RemoveOldWorkFiles(application / "missing", week), 0);
 }
 
 }  // namespace

@@ -4,10 +4,13 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QTreeWidget>
 
 #include "GuiTestSupport.h"
+#include "app/ui/StartUp.h"
 #include "app/ui/frmSettings.h"
+#include "app/ui/frmSplash.h"
 #include "app/ui/frmWelcome.h"
 #include "app/ui/mdiMain.h"
 
@@ -74,6 +77,35 @@ class SettingsTest : public QObject {
     QCOMPARE(file.value("MRUList/1Name").toString(), koalas);
     QCOMPARE(file.value("MRUList/1Title").toString(), QString("Koalas in three fragments"));
     QCOMPARE(frame.findChild<QAction*>("mniRecent1")->text(), "&1 " + koalas);
+  }
+
+  // A window manager puts the main frame, shown second, above the splash
+  // unless the splash stays on top; the modal welcome would cover it too.
+  void theSplashStaysInFrontAndTheWelcomeFollowsIt() {
+    TestProgram t;
+    mdiMain frame(t.program);
+    QString shown;
+    QPointer<frmSplash> splash;
+    bool splashGone = false;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, [&] {
+      if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+        shown = dialog->objectName();
+        splashGone = splash.isNull();
+        dialog->reject();
+      }
+    });
+    closer.start(5);
+    StartUp(frame, t.program, {});
+    splash = frame.findChild<frmSplash*>();
+    QVERIFY(splash && splash->isVisible());
+    QVERIFY(splash->windowFlags() & Qt::WindowStaysOnTopHint);
+    QTest::qWait(20);
+    QVERIFY(shown.isEmpty());
+
+    QTest::mouseClick(splash->findChild<QPushButton*>("SSClose"), Qt::LeftButton);
+    QTRY_COMPARE(shown, QString("frmWelcome"));
+    QVERIFY(splashGone);
   }
 
   void welcomeMarksMissingRecentProjects() {

@@ -17,7 +17,9 @@ constexpr int kCloseAfterMs = 3000;
 }  // namespace
 
 frmSplash::frmSplash(Program& program, QWidget* parent)
-    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint) {
+    // A window manager stacks the main frame, shown after the splash, above
+    // it unless the splash asks to stay on top.
+    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint) {
   const auto text = [&](int number) { return QString::fromStdString(program.strings.text(number)); };
   setObjectName("frmSplash");
   setAttribute(Qt::WA_DeleteOnClose);

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QMessageBox>
-#include <QPointer>
 #include <QTimer>
 
 #include "app/ui/Program.h"
@@ -12,7 +11,7 @@
 #include "app/ui/QtMessageBox.h"
 #include "app/ui/QtSaveFileDialog.h"
 #include "app/ui/QtSettingsStore.h"
-#include "app/ui/frmSplash.h"
+#include "app/ui/StartUp.h"
 #include "app/ui/mdiMain.h"
 #include "engine/Engine.h"
 #include "engine/EngineLibrary.h"
@@ -64,25 +63,8 @@ int main(int argc, char** argv) {
   program.closeEngine = CloseEngine;
 
   mdiMain frame(program);
-  auto* splash = new frmSplash(program, &frame);
-  splash->show();
-  app.processEvents();
-  frame.show();
-  splash->raise();
-  splash->loaded();
-
-  if (parser.isSet(quitAfterPaint)) {
-    frame.installEventFilter(new QuitOnFirstPaint(&frame));
-  } else if (!parser.positionalArguments().isEmpty()) {
-    // The user asked for this project: the splash must not hide it.
-    const QString project = parser.positionalArguments().constFirst();
-    const QPointer<frmSplash> splashStill(splash);
-    QTimer::singleShot(0, &frame, [&frame, project, splashStill] {
-      if (splashStill) splashStill->close();
-      frame.openProject(project);
-    });
-  } else {
-    QTimer::singleShot(0, &frame, &mdiMain::showWelcomeIfWanted);
-  }
+  if (parser.isSet(quitAfterPaint)) frame.installEventFilter(new QuitOnFirstPaint(&frame));
+  const QStringList arguments = parser.positionalArguments();
+  StartUp(frame, program, arguments.isEmpty() ? QString() : arguments.constFirst());
   return app.exec();
 }
