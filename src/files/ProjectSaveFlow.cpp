@@ -59,10 +59,12 @@ SaveResult FunctionSaveAs(ProjectState& state, Messages& messages, ISaveFileDial
   return Write(state, *path, messages);
 }
 
-bool MayCloseProject(ProjectState& state, Messages& messages, ISaveFileDialog& dialog) {
+bool MayCloseProject(ProjectState& state, Messages& messages, ISaveFileDialog& dialog, Closing closing) {
   if (!state.Changed()) return true;
-  switch (messages.show(messages.text(9118), msg::kConfirmation, MsgIcon::Question,
-                        MsgButtons::YesNoCancel)) {
+  const int question = closing == Closing::Program ? msg::kSaveBeforeQuitting : msg::kSaveBeforeClosing;
+  // Several projects may ask in turn as the program ends: each says which it is.
+  const std::string text = messages.text(question) + "\n\n" + Cp1252ToUtf8(state.document.title);
+  switch (messages.show(text, msg::kConfirmation, MsgIcon::Question, MsgButtons::YesNoCancel)) {
     case MsgAnswer::Yes:
       return FunctionSave(state, messages, dialog) == SaveResult::Saved;
     case MsgAnswer::No:

@@ -29,8 +29,12 @@ SaveResult FunctionSave(ProjectState& state, Messages& messages, ISaveFileDialog
 // Asks for a file, offers to take its name as the title, and writes there.
 SaveResult FunctionSaveAs(ProjectState& state, Messages& messages, ISaveFileDialog& dialog);
 
-// Whether a project may close: an unchanged one may; a changed one asks
-// whether to save it first, and stays open on Cancel or when the save fails.
-bool MayCloseProject(ProjectState& state, Messages& messages, ISaveFileDialog& dialog);
+// What is closing a project: the user closing it alone, or the program ending.
+enum class Closing { Project, Program };
+
+// Whether a project may close: an unchanged one may; a changed one asks, in
+// the words that fit what is closing and naming the project, whether to save
+// it first, and stays open on Cancel or when the save fails.
+bool MayCloseProject(ProjectState& state, Messages& messages, ISaveFileDialog& dialog, Closing closing);
 
 }  // namespace tamsic

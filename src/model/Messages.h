@@ -56,6 +56,7 @@ inline constexpr int kWarning = 9103;
 inline constexpr int kUnableToRunSimulation = 9110;
 inline constexpr int kError = 9111;
 inline constexpr int kConfirmation = 9115;
+inline constexpr int kSaveBeforeQuitting = 9118;
 inline constexpr int kFillDensityValues = 9116;
 inline constexpr int kCheckDensityBox = 9117;
 inline constexpr int kConfirmDeleteScenario = 9121;
@@ -67,6 +68,7 @@ inline constexpr int kProjectDoesNotExist = 9139;
 inline constexpr int kProblemWithData = 9143;
 inline constexpr int kModifiedManually = 9144;
 inline constexpr int kUnableToFindSection = 9145;
+inline constexpr int kSaveBeforeClosing = 9152;
 }  // namespace msg
 
 }  // namespace tamsic

@@ -140,17 +140,19 @@ TEST_F(SaveFlow, FailedWriteIsReportedAndLeavesTheProjectUnsaved) {
 }
 
 TEST_F(SaveFlow, ChangedProjectAsksBeforeClosing) {
-  EXPECT_TRUE(MayCloseProject(state, messages, dialog));
+  EXPECT_TRUE(MayCloseProject(state, messages, dialog, Closing::Project));
   EXPECT_TRUE(box.shown.empty());
 
   state.MarkChanged();
+  state.document.title = "Kiwi";
   box.answers = {MsgAnswer::Cancel};
-  EXPECT_FALSE(MayCloseProject(state, messages, dialog));
-  EXPECT_EQ(box.shown.back(), strings.text(9118));
+  EXPECT_FALSE(MayCloseProject(state, messages, dialog, Closing::Project));
+  EXPECT_EQ(box.shown.back(), strings.text(9152) + "\n\nKiwi");
   box.answers = {MsgAnswer::No};
-  EXPECT_TRUE(MayCloseProject(state, messages, dialog));
+  EXPECT_TRUE(MayCloseProject(state, messages, dialog, Closing::Program));
+  EXPECT_EQ(box.shown.back(), strings.text(9118) + "\n\nKiwi");
   box.answers = {MsgAnswer::Yes};
-  EXPECT_FALSE(MayCloseProject(state, messages, dialog)) << "the save dialog was cancelled";
+  EXPECT_FALSE(MayCloseProject(state, messages, dialog, Closing::Project)) << "the save dialog was cancelled";
 }
 
 TEST_F(SaveFlow, NewProjectIsTitledByItsNameAndSurvivesItsFirstSave) {

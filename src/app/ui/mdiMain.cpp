@@ -373,7 +373,10 @@ void mdiMain::closeEvent(QCloseEvent* event) {
   // Each changed project asks whether to save it; one answer of Cancel keeps
   // the program open. Unchanged projects close without a question.
   for (QMdiSubWindow* window : mdiArea_->subWindowList()) {
+    auto* project = qobject_cast<frmProject*>(window->widget());
+    if (project) project->setProgramClosing(true);
     if (!window->close()) {
+      if (project) project->setProgramClosing(false);
       event->ignore();
       return;
     }

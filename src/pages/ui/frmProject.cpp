@@ -212,7 +212,8 @@ bool frmProject::afterSave(tamsic::SaveResult result) {
 }
 
 void frmProject::closeEvent(QCloseEvent* event) {
-  if (tamsic::MayCloseProject(state_, program_.messages, program_.saveDialog))
+  const auto closing = programClosing_ ? tamsic::Closing::Program : tamsic::Closing::Project;
+  if (tamsic::MayCloseProject(state_, program_.messages, program_.saveDialog, closing))
     event->accept();
   else
     event->ignore();

@@ -47,6 +47,9 @@ class frmProject : public QWidget {
 
   // The run command: the run dialog, then the engine on the chosen scenarios.
   void runSimulation();
+  // Set while the program ends, which a project closing asks about in its own words.
+  void setProgramClosing(bool closing) { programClosing_ = closing; }
+
   // Set when a run is confirmed, so that result views built from earlier files are rebuilt.
   bool freshAnalysis() const { return freshAnalysis_; }
 
@@ -96,5 +99,6 @@ class frmProject : public QWidget {
   ProjectSettingsPage* settingsPage_ = nullptr;
   TextOutputPage* textOutput_ = nullptr;
   ResultsPage* results_ = nullptr;
+  bool programClosing_ = false;
   bool freshAnalysis_ = false;
 };
