@@ -13,4 +13,12 @@ ProjectDocument NewProject(const std::string& name, const std::string& user) {
   return project;
 }
 
+ProjectDocument NewProject(ProjectDocument from, const std::string& name, const std::string& user) {
+  ProjectDocument blank = NewProject(name, user);
+  from.title = std::move(blank.title);
+  from.users = std::move(blank.users);
+  from.reportLocation.clear();
+  return from;
+}
+
 }  // namespace tamsic

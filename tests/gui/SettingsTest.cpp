@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QListWidget>
+#include <QTabWidget>
 #include <QTreeWidget>
 
 #include "GuiTestSupport.h"
@@ -13,8 +15,16 @@
 #include "app/ui/frmSplash.h"
 #include "app/ui/frmWelcome.h"
 #include "app/ui/mdiMain.h"
+#include "pages/ui/frmProject.h"
 
 using namespace guitest;
+
+namespace {
+QByteArray ReadAll(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+}  // namespace
 
 class SettingsTest : public QObject {
   Q_OBJECT
@@ -108,9 +118,41 @@ class SettingsTest : public QObject {
     QVERIFY(splashGone);
   }
 
+  // The examples start new projects of the user's own: the example file is
+  // only read, and the new project is unsaved under its new name.
+  void anExampleProjectStartsANewOne() {
+    QTemporaryDir folder;
+    TestProgram t;
+    frmWelcome welcome(t.program);
+    auto* examples = welcome.findChild<QListWidget*>("lstExamples");
+    const auto found = examples->findItems("Koalas in three fragments", Qt::MatchExactly);
+    QCOMPARE(found.size(), 1);
+    welcome.findChild<QTabWidget*>()->setCurrentIndex(1);
+    examples->setCurrentItem(found.front());
+    welcome.accept();
+    QVERIFY(!welcome.blankProjectChosen());
+    const QString example = welcome.chosenTemplate();
+    QCOMPARE(QFileInfo(example).fileName(), QString("Koalas.tpj"));
+    const QByteArray before = ReadAll(example);
+
+    mdiMain frame(t.program);
+    frmProject* project = frame.newProject({folder.path(), "Mine", "Ann", example});
+    QVERIFY(project);
+    const tamsic::ProjectState& state = project->state();
+    QCOMPARE(state.document.title, std::string("Mine"));
+    QCOMPARE(state.document.users, std::vector<std::string>{"Ann"});
+    QCOMPARE(state.document.scenarios.Count(), std::size_t{3});
+    QVERIFY(state.document.reportLocation.empty());
+    QVERIFY(state.Changed() && state.FullPath().empty());
+    QCOMPARE(ReadAll(example), before);
+    QCOMPARE(QDir(QFileInfo(example).path()).entryList({"*.bak"}, QDir::Files), QStringList());
+  }
+
   void welcomeMarksMissingRecentProjects() {
     QTemporaryDir folder;
-    const QString koalas = folder.filePath("Koalas.tpj");
+    // A path deep enough to have been cut short in a narrow column.
+    QVERIFY(QDir(folder.path()).mkpath("field seasons/2026/koala surveys/southern fragments"));
+    const QString koalas = folder.filePath("field seasons/2026/koala surveys/southern fragments/Koalas.tpj");
     QVERIFY(QFile::copy(Example("Koalas.tpj"), koalas));
     TestProgram t;
     t.program.recent.Add(folder.filePath("Gone.tpj").toStdString(), "Gone");
@@ -119,6 +161,8 @@ class SettingsTest : public QObject {
     const auto* list = welcome.findChild<QTreeWidget*>("lstRecent");
     QCOMPARE(list->topLevelItemCount(), 2);
     QCOMPARE(list->topLevelItem(0)->text(3), QString("Koalas in three fragments"));
+    const QString path = list->topLevelItem(0)->text(1);
+    QVERIFY(list->columnWidth(1) > list->fontMetrics().horizontalAdvance(path));
     QVERIFY(list->topLevelItem(1)->text(2) == "Not Found!");
     QVERIFY(!(list->topLevelItem(1)->flags() & Qt::ItemIsEnabled));
 

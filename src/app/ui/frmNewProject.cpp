@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -10,13 +11,14 @@
 
 #include "app/ui/Program.h"
 
-frmNewProject::frmNewProject(Program& program, QWidget* parent) : QDialog(parent), program_(program) {
+frmNewProject::frmNewProject(Program& program, QWidget* parent, QString fromTemplate)
+    : QDialog(parent), program_(program), fromTemplate_(std::move(fromTemplate)) {
   setObjectName("frmNewProject");
   setWindowTitle(text(5000));
   txtDir_ = new QLineEdit(QDir::homePath(), this);
   txtDir_->setObjectName("txtDir");
   txtDir_->setToolTip(text(5007));
-  txtName_ = new QLineEdit(this);
+  txtName_ = new QLineEdit(QFileInfo(fromTemplate_).completeBaseName(), this);
   txtName_->setObjectName("txtName");
   txtName_->setToolTip(text(5008));
   txtUser_ = new QLineEdit(qEnvironmentVariable("USER"), this);
@@ -46,7 +48,7 @@ frmNewProject::frmNewProject(Program& program, QWidget* parent) : QDialog(parent
 }
 
 NewProjectRequest frmNewProject::request() const {
-  return {txtDir_->text().trimmed(), txtName_->text().trimmed(), txtUser_->text().trimmed()};
+  return {txtDir_->text().trimmed(), txtName_->text().trimmed(), txtUser_->text().trimmed(), fromTemplate_};
 }
 
 void frmNewProject::accept() {

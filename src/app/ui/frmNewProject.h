@@ -1,5 +1,6 @@
 #pragma once
-// The new-project dialog: the folder, the project's name and the user's name.
+// The new-project dialog: the folder, the project's name and the user's name,
+// for a blank project or one that starts from a template.
 #include <QDialog>
 
 #include "app/ui/NewProjectRequest.h"
@@ -10,7 +11,7 @@ class QLineEdit;
 class frmNewProject : public QDialog {
   Q_OBJECT
  public:
-  explicit frmNewProject(Program& program, QWidget* parent = nullptr);
+  explicit frmNewProject(Program& program, QWidget* parent = nullptr, QString fromTemplate = {});
 
   NewProjectRequest request() const;
   // Creates the folder; refuses an empty name, or a folder that cannot be made, with the reason.
@@ -24,4 +25,5 @@ class frmNewProject : public QDialog {
   QLineEdit* txtDir_ = nullptr;
   QLineEdit* txtName_ = nullptr;
   QLineEdit* txtUser_ = nullptr;
+  QString fromTemplate_;
 };

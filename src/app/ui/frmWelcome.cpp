@@ -2,19 +2,23 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QFormLayout>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QStorageInfo>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "app/ExampleProjects.h"
 #include "app/ui/LanguageLocale.h"
 #include "app/ui/Program.h"
 #include "app/ui/ThemeIcon.h"
@@ -26,6 +30,9 @@ namespace {
 enum Tab { kRecentTab, kNewTab, kOpenTab };
 enum RecentColumn { kFile, kPath, kModified, kTitle, kNotes, kUsers, kRecentColumns };
 constexpr int kWidestColumn = 240;
+// Paths are what tells two projects of one name apart: they get the most room,
+// and a longer one loses its middle, not its end.
+constexpr int kWidestPath = 560;
 
 // A damaged recent project must not interrupt the welcome with messages: its
 // row simply shows no title.
@@ -62,10 +69,14 @@ frmWelcome::frmWelcome(Program& program, QWidget* parent) : QDialog(parent), pro
   layout->addWidget(tabs_);
   layout->addLayout(bottom);
   fillRecent();
+  fillExamples();
   fillDrives();
   wireSignals();
   showFolder(QDir::currentPath());
-  resize(860, 440);
+  // As wide as the recent projects' columns need, within the screen.
+  const int wanted = std::max(860, recentWidth_ + 60);
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  resize(screen ? std::min(wanted, screen->availableGeometry().width() * 9 / 10) : wanted, 440);
 }
 
 QWidget* frmWelcome::buildRecentTab() {
@@ -73,19 +84,28 @@ QWidget* frmWelcome::buildRecentTab() {
   lstRecent_->setObjectName("lstRecent");
   lstRecent_->setRootIsDecorated(false);
   lstRecent_->setColumnCount(kRecentColumns);
+  lstRecent_->setTextElideMode(Qt::ElideMiddle);
   lstRecent_->setHeaderLabels({text(8709), text(8710), text(8711), text(8712), text(8713), text(8714)});
   return lstRecent_;
 }
 
 QWidget* frmWelcome::buildNewTab() {
-  lstNew_ = new QListWidget(this);
+  auto* page = new QWidget(this);
+  lstNew_ = new QListWidget(page);
   lstNew_->setObjectName("lstNew");
   lstNew_->setViewMode(QListView::IconMode);
   lstNew_->setIconSize(QSize(64, 64));
   lstNew_->setMovement(QListView::Static);
   lstNew_->addItem(new QListWidgetItem(ThemeIcon("document-new", *style(), QStyle::SP_FileIcon), text(8706)));
   lstNew_->setCurrentRow(0);
-  return lstNew_;
+  lstNew_->setFixedHeight(lstNew_->sizeHintForRow(0) + 2 * lstNew_->frameWidth() + 8);
+  lstExamples_ = new QListWidget(page);
+  lstExamples_->setObjectName("lstExamples");
+  auto* layout = new QVBoxLayout(page);
+  layout->addWidget(lstNew_);
+  layout->addWidget(new QLabel(text(8720), page));
+  layout->addWidget(lstExamples_, 1);
+  return page;
 }
 
 QWidget* frmWelcome::buildOpenTab() {
@@ -117,6 +137,12 @@ QWidget* frmWelcome::buildOpenTab() {
 void frmWelcome::wireSignals() {
   connect(lstRecent_, &QTreeWidget::itemDoubleClicked, this, &frmWelcome::accept);
   connect(lstNew_, &QListWidget::itemDoubleClicked, this, &frmWelcome::accept);
+  connect(lstExamples_, &QListWidget::itemDoubleClicked, this, &frmWelcome::accept);
+  // One choice in the tab: the blank project or an example.
+  connect(lstNew_, &QListWidget::itemPressed, lstExamples_, [this] { lstExamples_->setCurrentRow(-1); });
+  connect(lstExamples_, &QListWidget::currentRowChanged, lstNew_, [this](int row) {
+    if (row >= 0) lstNew_->clearSelection();
+  });
   connect(lstFiles_, &QListWidget::itemDoubleClicked, this, &frmWelcome::accept);
   connect(cboDrive_, &QComboBox::currentTextChanged, this, &frmWelcome::showFolder);
   connect(lstFolders_, &QListWidget::itemDoubleClicked, this,
@@ -131,6 +157,7 @@ void frmWelcome::fillRecent() {
     auto* item = new QTreeWidgetItem(lstRecent_);
     item->setText(kFile, file.fileName());
     item->setText(kPath, file.absolutePath());
+    item->setToolTip(kPath, file.absoluteFilePath());
     item->setData(kFile, Qt::UserRole, file.absoluteFilePath());
     item->setText(kTitle, QString::fromStdString(entry.title));
     if (!file.exists()) {
@@ -152,11 +179,32 @@ void frmWelcome::fillRecent() {
     }
   }
   // Notes can be paragraphs: their column is kept narrow and the tooltip shows them whole.
+  int width = 0;
   for (int column = 0; column < kRecentColumns; ++column) {
     lstRecent_->resizeColumnToContents(column);
-    lstRecent_->setColumnWidth(column, std::min(lstRecent_->columnWidth(column), kWidestColumn));
+    const int widest = column == kPath ? kWidestPath : kWidestColumn;
+    lstRecent_->setColumnWidth(column, std::min(lstRecent_->columnWidth(column), widest));
+    width += lstRecent_->columnWidth(column);
   }
+  recentWidth_ = width;
   if (lstRecent_->topLevelItemCount() > 0) lstRecent_->setCurrentItem(lstRecent_->topLevelItem(0));
+}
+
+// Each example by its title, its notes in the tooltip.
+void frmWelcome::fillExamples() {
+  SilentBox silent;
+  tamsic::Messages quiet(silent, program_.strings);
+  for (const auto& path : tamsic::ExampleProjects(QCoreApplication::applicationDirPath().toStdString())) {
+    auto* item = new QListWidgetItem(QString::fromStdString(path.stem().string()), lstExamples_);
+    item->setData(Qt::UserRole, QString::fromStdString(path.string()));
+    try {
+      const tamsic::ProjectHeader header = tamsic::GetTamsicHeader(path.string(), quiet);
+      if (!header.title.empty()) item->setText(FromFile(header.title));
+      item->setToolTip(FromFile(header.notes));
+    } catch (const std::exception&) {
+      // Listed by its file name; starting from it will tell what is wrong.
+    }
+  }
 }
 
 // The drives are the mounted file systems; the one holding the current folder is chosen.
@@ -189,7 +237,10 @@ void frmWelcome::accept() {
       break;
     }
     case kNewTab:
-      blank_ = true;
+      if (const QListWidgetItem* example = lstExamples_->currentItem(); example && example->isSelected())
+        template_ = example->data(Qt::UserRole).toString();
+      else
+        blank_ = true;
       break;
     default: {
       const QListWidgetItem* item = lstFiles_->currentItem();

@@ -1,6 +1,6 @@
 #pragma once
-// The welcome dialog: open a recent project, start a blank one, or find a
-// project file by drive, folder and file.
+// The welcome dialog: open a recent project, start a blank one or one from an
+// example project, or find a project file by drive, folder and file.
 #include <QDialog>
 
 struct Program;
@@ -16,8 +16,10 @@ class frmWelcome : public QDialog {
  public:
   explicit frmWelcome(Program& program, QWidget* parent = nullptr);
 
-  // After acceptance: either the blank project or a project file was chosen.
+  // After acceptance: the blank project, an example to start a new project
+  // from, or a project file to open was chosen.
   bool blankProjectChosen() const { return blank_; }
+  const QString& chosenTemplate() const { return template_; }
   const QString& chosenPath() const { return path_; }
 
   void accept() override;
@@ -31,6 +33,7 @@ class frmWelcome : public QDialog {
   QWidget* buildOpenTab();
   void wireSignals();
   void fillRecent();
+  void fillExamples();
   void fillDrives();
   QString text(int number) const;
 
@@ -38,6 +41,7 @@ class frmWelcome : public QDialog {
   QTabWidget* tabs_ = nullptr;
   QTreeWidget* lstRecent_ = nullptr;
   QListWidget* lstNew_ = nullptr;
+  QListWidget* lstExamples_ = nullptr;
   QComboBox* cboDrive_ = nullptr;
   QLabel* lblFolder_ = nullptr;
   QListWidget* lstFolders_ = nullptr;
@@ -46,4 +50,6 @@ class frmWelcome : public QDialog {
   QString folder_;
   bool blank_ = false;
   QString path_;
+  QString template_;
+  int recentWidth_ = 0;
 };

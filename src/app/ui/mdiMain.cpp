@@ -172,7 +172,7 @@ void mdiMain::buildToolbar() {
 }
 
 void mdiMain::wireSignals() {
-  connect(mniNew_, &QAction::triggered, this, &mdiMain::newProjectDialog);
+  connect(mniNew_, &QAction::triggered, this, [this] { newProjectDialog(); });
   connect(mniOpen_, &QAction::triggered, this, &mdiMain::openDialog);
   connect(mniCloseProject_, &QAction::triggered, mdiArea_, &QMdiArea::closeActiveSubWindow);
   connect(mniSave_, &QAction::triggered, this, [this] {
@@ -265,6 +265,35 @@ frmProject* mdiMain::activeProject() const {
   return window ? qobject_cast<frmProject*>(window->widget()) : nullptr;
 }
 
+// Every way a project file can fail to be read ends in one message here.
+std::optional<tamsic::OpenedProject> mdiMain::readProject(const std::string& file, bool makeBackups) {
+  auto& messages = program_.messages;
+  std::optional<tamsic::OpenedProject> opened;
+  try {
+    opened = tamsic::OpenProjectFile(file, messages, makeBackups, program_.decimalSeparator);
+  } catch (const tamsic::FileError& error) {
+    messages.show(error.what(), tamsic::msg::kError, tamsic::MsgIcon::Critical);
+    return std::nullopt;
+  } catch (const tamsic::TamsicError& error) {
+    // The reader has already named the missing section; anything else is told here.
+    if (error.number() != tamsic::kErrMissingSection)
+      messages.show(messages.text(9128) + "\n\n" + error.what(), tamsic::msg::kError,
+                    tamsic::MsgIcon::Critical);
+    return std::nullopt;
+  } catch (const std::exception& error) {
+    messages.show(messages.text(9128) + "\n\n" + error.what(), tamsic::msg::kError,
+                  tamsic::MsgIcon::Critical);
+    return std::nullopt;
+  }
+  if (!opened) {
+    // A missing file was reported by the signature test; this one exists but is no project.
+    if (tamsic::FileExists(file))
+      messages.show(messages.text(9128) + "\n\n" + file, tamsic::msg::kWarning, tamsic::MsgIcon::Critical);
+    return std::nullopt;
+  }
+  return opened;
+}
+
 frmProject* mdiMain::openProject(const QString& path) {
   const std::string file = path.toStdString();
   // A second window on the same file would let one save over the other's work.
@@ -275,30 +304,8 @@ frmProject* mdiMain::openProject(const QString& path) {
       return project;
     }
   }
-  auto& messages = program_.messages;
-  std::optional<tamsic::OpenedProject> opened;
-  try {
-    opened = tamsic::OpenProjectFile(file, messages, true, program_.decimalSeparator);
-  } catch (const tamsic::FileError& error) {
-    messages.show(error.what(), tamsic::msg::kError, tamsic::MsgIcon::Critical);
-    return nullptr;
-  } catch (const tamsic::TamsicError& error) {
-    // The reader has already named the missing section; anything else is told here.
-    if (error.number() != tamsic::kErrMissingSection)
-      messages.show(messages.text(9128) + "\n\n" + error.what(), tamsic::msg::kError,
-                    tamsic::MsgIcon::Critical);
-    return nullptr;
-  } catch (const std::exception& error) {
-    messages.show(messages.text(9128) + "\n\n" + error.what(), tamsic::msg::kError,
-                  tamsic::MsgIcon::Critical);
-    return nullptr;
-  }
-  if (!opened) {
-    // A missing file was reported by the signature test; this one exists but is no project.
-    if (tamsic::FileExists(file))
-      messages.show(messages.text(9128) + "\n\n" + file, tamsic::msg::kWarning, tamsic::MsgIcon::Critical);
-    return nullptr;
-  }
+  auto opened = readProject(file, true);
+  if (!opened) return nullptr;
   tamsic::ProjectState state;
   state.document = std::move(opened->document);
   state.versionText = opened->versionText;
@@ -309,9 +316,18 @@ frmProject* mdiMain::openProject(const QString& path) {
 }
 
 frmProject* mdiMain::newProject(const NewProjectRequest& request) {
-  QDir::setCurrent(request.folder);
+  const std::string name = request.name.trimmed().toStdString();
+  const std::string user = request.user.trimmed().toStdString();
   tamsic::ProjectState state;
-  state.document = tamsic::NewProject(request.name.trimmed().toStdString(), request.user.trimmed().toStdString());
+  if (request.fromTemplate.isEmpty()) {
+    state.document = tamsic::NewProject(name, user);
+  } else {
+    // The template is only read: it keeps no backups of its own.
+    auto opened = readProject(request.fromTemplate.toStdString(), false);
+    if (!opened) return nullptr;
+    state.document = tamsic::NewProject(std::move(opened->document), name, user);
+  }
+  QDir::setCurrent(request.folder);
   state.proposedFolder = request.folder.toStdString();
   state.MarkChanged();
   return addProjectWindow(new frmProject(program_, std::move(state)));
@@ -339,8 +355,8 @@ void mdiMain::projectSaved(const QString& path, const QString& title) {
   rebuildRecentMenu();
 }
 
-void mdiMain::newProjectDialog() {
-  frmNewProject dialog(program_, this);
+void mdiMain::newProjectDialog(const QString& fromTemplate) {
+  frmNewProject dialog(program_, this, fromTemplate);
   if (dialog.exec() == QDialog::Accepted) newProject(dialog.request());
 }
 
@@ -356,8 +372,8 @@ void mdiMain::showWelcomeIfWanted() {
 void mdiMain::showWelcome() {
   frmWelcome dialog(program_, this);
   if (dialog.exec() != QDialog::Accepted) return;
-  if (dialog.blankProjectChosen())
-    newProjectDialog();
+  if (dialog.blankProjectChosen() || !dialog.chosenTemplate().isEmpty())
+    newProjectDialog(dialog.chosenTemplate());
   else
     openProject(dialog.chosenPath());
 }

@@ -3,8 +3,11 @@
 // the recent-projects menu, and opens the dialogs. Its captions are fixed when
 // it is built; a language chosen later applies to windows opened afterwards.
 #include <QMainWindow>
+#include <optional>
+#include <string>
 
 #include "app/ui/NewProjectRequest.h"
+#include "files/ProjectOpen.h"
 
 struct Program;
 class QActionGroup;
@@ -23,7 +26,9 @@ class mdiMain : public QMainWindow {
   // answers the window, or null when the file is missing, not a project or
   // could not be read (the user has been told why).
   frmProject* openProject(const QString& path);
-  // A window on a new, not yet saved project in an existing folder, which becomes the current one.
+  // A window on a new, not yet saved project in an existing folder, which
+  // becomes the current one; null when its template cannot be read (the user
+  // has been told why).
   frmProject* newProject(const NewProjectRequest& request);
   frmProject* activeProject() const;
   QMdiArea* mdiArea() const { return mdiArea_; }
@@ -50,12 +55,13 @@ class mdiMain : public QMainWindow {
   void checkCurrentLanguage();
   void updateCommands();
   void toolbarAction(QAction* action);
-  void newProjectDialog();
+  void newProjectDialog(const QString& fromTemplate = {});
   void openDialog();
   void showWelcome();
   void showSettings();
   void showAbout();
   frmProject* addProjectWindow(frmProject* window);
+  std::optional<tamsic::OpenedProject> readProject(const std::string& file, bool makeBackups);
   void projectSaved(const QString& path, const QString& title);
   void sendKeyToFocus(int key);
   QString text(int number) const;
