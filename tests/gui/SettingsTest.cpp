@@ -19,12 +19,6 @@
 
 using namespace guitest;
 
-namespace {
-QByteArray ReadAll(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-}  // namespace
 
 class SettingsTest : public QObject {
   Q_OBJECT
@@ -133,7 +127,7 @@ class SettingsTest : public QObject {
     QVERIFY(!welcome.blankProjectChosen());
     const QString example = welcome.chosenTemplate();
     QCOMPARE(QFileInfo(example).fileName(), QString("Koalas.tpj"));
-    const QByteArray before = ReadAll(example);
+    const QByteArray before = ReadFile(example);
 
     mdiMain frame(t.program);
     frmProject* project = frame.newProject({folder.path(), "Mine", "Ann", example});
@@ -144,7 +138,7 @@ class SettingsTest : public QObject {
     QCOMPARE(state.document.scenarios.Count(), std::size_t{3});
     QVERIFY(state.document.reportLocation.empty());
     QVERIFY(state.Changed() && state.FullPath().empty());
-    QCOMPARE(ReadAll(example), before);
+    QCOMPARE(ReadFile(example), before);
     QCOMPARE(QDir(QFileInfo(example).path()).entryList({"*.bak"}, QDir::Files), QStringList());
   }
 

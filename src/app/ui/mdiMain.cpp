@@ -337,10 +337,12 @@ frmProject* mdiMain::addProjectWindow(frmProject* window) {
   QMdiSubWindow* sub = mdiArea_->addSubWindow(window);
   sub->setAttribute(Qt::WA_DeleteOnClose);
   connect(window, &frmProject::saved, this, &mdiMain::projectSaved);
-  // Each new window a step down and right of the last, wide enough for its
-  // contents (long translated captions) as far as the frame allows.
+  // The first window takes the whole area; each further one a step down and
+  // right of the last, wide enough for its contents (long translated
+  // captions) as far as the frame allows.
   const QSize space = mdiArea_->viewport()->size();
-  const QSize wanted = (space * 85 / 100).expandedTo(sub->minimumSizeHint()).boundedTo(space);
+  const bool first = mdiArea_->subWindowList().size() == 1;
+  const QSize wanted = first ? space : (space * 85 / 100).expandedTo(sub->minimumSizeHint()).boundedTo(space);
   const int step = std::min(24 * static_cast<int>((mdiArea_->subWindowList().size() - 1) % 5),
                             std::min(space.width() - wanted.width(), space.height() - wanted.height()));
   sub->setGeometry(step, step, wanted.width(), wanted.height());

@@ -1,9 +1,10 @@
 #include "pages/ui/CopyInputValues.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+
+#include "pages/ui/FlowLayout.h"
 
 CopyInputValuesBar::CopyInputValuesBar(const PageContext& context, QWidget* parent) : QWidget(parent) {
   cboPopulationPicker = new QComboBox(this);
@@ -17,13 +18,12 @@ CopyInputValuesBar::CopyInputValuesBar(const PageContext& context, QWidget* pare
   ssCMDCopyInputValues->setObjectName("ssCMDCopyInputValues");
   ssCMDCopyInputValues->setToolTip(context.text(1323));
 
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
+  // Read as one sentence, which wraps in a narrow window.
+  auto* row = new FlowLayout(this);
   row->addWidget(ssCMDCopyInputValues);
   row->addWidget(cboPopulationPicker);
   row->addWidget(cboSectionPicker);
   row->addWidget(new QLabel(context.text(1618), this));
-  row->addStretch();
 
   connect(ssCMDCopyInputValues, &QPushButton::clicked, this, [this] {
     emit copyRequested(cboPopulationPicker->currentIndex() + 1, cboSectionPicker->currentIndex() == 1);

@@ -93,6 +93,15 @@ QSize GridView::sizeHint() const {
           std::min(height, kHighest) + (width > kScrollsSideways ? scrollBar : 0)};
 }
 
+// Never so narrow that the row headings hide the values: the row headings
+// and a column of values stay in view, and a narrow page scrolls instead.
+QSize GridView::minimumSizeHint() const {
+  const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const int column = model_->columnCount() > 0 ? columnWidth(0) : 0;
+  const int width = verticalHeader()->sizeHint().width() + column + 2 * frameWidth() + scrollBar + 2;
+  return {std::min(width, sizeHint().width()), QTableView::minimumSizeHint().height()};
+}
+
 // Long headings wrap over up to four lines; columns are as wide as their
 // longest word or their values need.
 void GridView::fitHeadings() {

@@ -21,6 +21,7 @@ class GridView : public QTableView {
   // The hint of a cell (grid coordinates); the grid's own hint by default.
   std::function<int(int row, int col)> hintOf;
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  signals:
   void hintChanged(const QString& hint);

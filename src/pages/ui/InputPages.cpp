@@ -72,6 +72,7 @@ void InputPages::layOut() {
   bold.setBold(true);
   bold.setPointSizeF(bold.pointSizeF() * 1.2);
   title_->setFont(bold);
+  title_->setWordWrap(true);  // long translated titles in a narrow window
   stack_ = new QStackedWidget(this);
   for (InputPage* page : pages_) {
     auto* scroll = new QScrollArea(stack_);

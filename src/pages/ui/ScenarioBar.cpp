@@ -9,6 +9,7 @@
 #include <QUndoStack>
 
 #include "model/ScenarioManagement.h"
+#include "pages/ui/FlowLayout.h"
 #include "pages/ui/InputPages.h"
 #include "pages/ui/UpdateGuard.h"
 #include "pages/ui/frmNewScenario.h"
@@ -49,17 +50,25 @@ ScenarioBar::ScenarioBar(const PageContext& context, tamsic::ScenarioCollection&
   UpdateScenarioSelector();
 }
 
+// The chooser and the buttons each stay together; in a narrow window the
+// buttons go to a line of their own.
 void ScenarioBar::layOut() {
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(new QLabel(context_.text(1415), this));
-  row->addWidget(cmdPrevScene);
-  row->addWidget(cboScenario, 1);
-  row->addWidget(cmdNextScene);
-  row->addSpacing(12);
-  row->addWidget(cmdAddScene);
-  row->addWidget(cmdDeleteScene);
-  row->addWidget(cmdSceneFrm);
+  auto* chooser = new QWidget(this);
+  auto* choose = new QHBoxLayout(chooser);
+  choose->setContentsMargins(0, 0, 0, 0);
+  choose->addWidget(new QLabel(context_.text(1415), chooser));
+  choose->addWidget(cmdPrevScene);
+  choose->addWidget(cboScenario);
+  choose->addWidget(cmdNextScene);
+  auto* buttons = new QWidget(this);
+  auto* press = new QHBoxLayout(buttons);
+  press->setContentsMargins(0, 0, 0, 0);
+  press->addWidget(cmdAddScene);
+  press->addWidget(cmdDeleteScene);
+  press->addWidget(cmdSceneFrm);
+  auto* flow = new FlowLayout(this, 12);
+  flow->addWidget(chooser);
+  flow->addWidget(buttons);
 }
 
 void ScenarioBar::wire() {

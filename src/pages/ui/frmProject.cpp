@@ -27,6 +27,7 @@
 #include "files/ProjectFile.h"
 #include "files/TextCodec.h"
 #include "pages/StableAgeDistribution.h"
+#include "pages/ui/FlowLayout.h"
 #include "pages/ui/InputPages.h"
 #include "pages/ui/ProjectSettingsPage.h"
 #include "pages/ui/ScenarioBar.h"
@@ -83,18 +84,21 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
 
 QWidget* frmProject::buildHeader() {
   auto* header = new QWidget(this);
-  auto* row = new QHBoxLayout(header);
-  row->setContentsMargins(0, 0, 0, 0);
   txtProjectTitle_ = new QLineEdit(FromFile(state_.document.title), header);
   txtProjectTitle_->setObjectName("txtProjectTitle");
   txtProjectTitle_->setToolTip(text(1425));
   // The selector, previous and next, and adding, deleting and ordering scenarios.
   scenarioBar_ = new ScenarioBar(context_, state_.document.scenarios, *inputPages_, *undo_, header);
-  row->addWidget(new QLabel(text(1414), header));
+  auto* title = new QWidget(header);
+  auto* titleRow = new QHBoxLayout(title);
+  titleRow->setContentsMargins(0, 0, 0, 0);
+  titleRow->addWidget(new QLabel(text(1414), title));
   txtProjectTitle_->setMinimumWidth(220);
-  row->addWidget(txtProjectTitle_, 1);
-  row->addSpacing(12);
-  row->addWidget(scenarioBar_, 2);
+  titleRow->addWidget(txtProjectTitle_);
+  // The scenario bar goes below the title when the window is too narrow for both.
+  auto* flow = new FlowLayout(header, 12);
+  flow->addWidget(title);
+  flow->addWidget(scenarioBar_);
   return header;
 }
 

@@ -1,0 +1,69 @@
+#include "pages/ui/FlowLayout.h"
+
+#include <QWidget>
+
+FlowLayout::FlowLayout(QWidget* parent, int spacing) : QLayout(parent), spacing_(spacing) {
+  setContentsMargins(0, 0, 0, 0);
+}
+
+FlowLayout::~FlowLayout() { qDeleteAll(items_); }
+
+void FlowLayout::addItem(QLayoutItem* item) { items_.append(item); }
+
+int FlowLayout::count() const { return static_cast<int>(items_.size()); }
+
+QLayoutItem* FlowLayout::itemAt(int index) const { return items_.value(index); }
+
+QLayoutItem* FlowLayout::takeAt(int index) {
+  return index >= 0 && index < items_.size() ? items_.takeAt(index) : nullptr;
+}
+
+int FlowLayout::heightForWidth(int width) const { return arrange(QRect(0, 0, width, 0), false); }
+
+// Everything on one line.
+QSize FlowLayout::sizeHint() const {
+  QSize size;
+  for (const QLayoutItem* item : items_) {
+    if (item->isEmpty()) continue;
+    const QSize hint = item->sizeHint();
+    size.rwidth() += hint.width() + (size.width() > 0 ? spacing_ : 0);
+    size.setHeight(std::max(size.height(), hint.height()));
+  }
+  const QMargins margins = contentsMargins();
+  return size + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+}
+
+// As narrow as the widest item, each on a line of its own.
+QSize FlowLayout::minimumSize() const {
+  QSize size;
+  for (const QLayoutItem* item : items_)
+    if (!item->isEmpty()) size = size.expandedTo(item->minimumSize());
+  const QMargins margins = contentsMargins();
+  return size + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+}
+
+void FlowLayout::setGeometry(const QRect& rect) {
+  QLayout::setGeometry(rect);
+  arrange(rect, true);
+}
+
+int FlowLayout::arrange(const QRect& rect, bool place) const {
+  const QRect area = rect.marginsRemoved(contentsMargins());
+  int x = area.x();
+  int y = area.y();
+  int lineHeight = 0;
+  for (QLayoutItem* item : items_) {
+    if (item->isEmpty()) continue;
+    const int width = std::min(item->sizeHint().width(), area.width());
+    const int height = item->hasHeightForWidth() ? item->heightForWidth(width) : item->sizeHint().height();
+    if (x > area.x() && x + width > area.right() + 1) {
+      x = area.x();
+      y += lineHeight + spacing_;
+      lineHeight = 0;
+    }
+    if (place) item->setGeometry(QRect(x, y, width, height));
+    x += width + spacing_;
+    lineHeight = std::max(lineHeight, height);
+  }
+  return y + lineHeight - rect.y() + contentsMargins().bottom();
+}
