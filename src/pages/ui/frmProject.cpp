@@ -65,6 +65,7 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
       undo_(new QUndoStack(this)) {
   setObjectName("frmProject");
   context_.showEquationDialogOnEquals = [this] { return program_.settings.showEquationDialogOnEquals != 0; };
+  context_.decimalSeparator = program.decimalSeparator;
   context_.stableAgeDistribution = [this](tamsic::clsScenario& record, std::size_t number) {
     return stableAgeDistribution(record, number);
   };
