@@ -11,6 +11,7 @@ class QActionGroup;
 class QMdiArea;
 class QMenu;
 class QToolBar;
+class QUndoGroup;
 class frmProject;
 
 class mdiMain : public QMainWindow {
@@ -58,6 +59,8 @@ class mdiMain : public QMainWindow {
   frmProject* addProjectWindow(frmProject* window);
   void projectSaved(const QString& path, const QString& title);
   void sendKeyToFocus(int key);
+  // An undo or redo command that names the edit it takes back and follows the active project window.
+  QAction* undoAction(const char* name, int prefix, bool undo);
   QString text(int number) const;
 
   Program& program_;
@@ -74,6 +77,9 @@ class mdiMain : public QMainWindow {
   QAction* mniSaveAs_ = nullptr;
   QAction* mniProperties_ = nullptr;
   QAction* mniExit_ = nullptr;
+  QUndoGroup* undoGroup_ = nullptr;
+  QAction* mniUndo_ = nullptr;
+  QAction* mniRedo_ = nullptr;
   QAction* mniCut_ = nullptr;
   QAction* mniCopy_ = nullptr;
   QAction* mniPaste_ = nullptr;

@@ -82,6 +82,12 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
   refreshCaption();
 }
 
+frmProject::~frmProject() {
+  // The undo stack empties itself as it goes, after this window's members are
+  // gone; telling the window of it would reach them.
+  disconnect(undo_, nullptr, this, nullptr);
+}
+
 QWidget* frmProject::buildHeader() {
   auto* header = new QWidget(this);
   auto* row = new QHBoxLayout(header);
@@ -162,6 +168,16 @@ void frmProject::wireSignals() {
     const QSignalBlocker quiet(hypInput_);
     hypInput_->setCurrentRow(page);
   });
+}
+
+void frmProject::undo() {
+  tabs_->setCurrentIndex(0);
+  inputPages_->undo();
+}
+
+void frmProject::redo() {
+  tabs_->setCurrentIndex(0);
+  inputPages_->redo();
 }
 
 std::size_t frmProject::currentScenario() const { return inputPages_->currentScenario(); }
