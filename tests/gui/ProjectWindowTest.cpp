@@ -10,6 +10,7 @@
 #include "GuiTestSupport.h"
 #include "app/ui/frmNewProject.h"
 #include "app/ui/mdiMain.h"
+#include "pages/ui/ScenarioBar.h"
 #include "pages/ui/frmProject.h"
 
 using namespace guitest;
@@ -222,6 +223,41 @@ class ProjectWindowTest : public QObject {
     QVERIFY(!undo->isEnabled());
     frame.mdiArea()->setActiveSubWindow(frame.mdiArea()->subWindowList().front());
     QVERIFY(undo->isEnabled());
+  }
+
+  // Undo back to the saved state leaves nothing to save, unless a change that
+  // no undo takes back was made meanwhile.
+  void undoToTheSavedStateLeavesNothingToSave() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    frame.show();
+    frmProject* project = frame.newProject({folder.path(), "Trout", "Ann"});
+    t.saveDialog.answer = folder.filePath("Trout.tpj").toStdString();
+    auto* save = frame.findChild<QAction*>("mniSave");
+    auto* undo = frame.findChild<QAction*>("mniUndo");
+    save->trigger();
+    QVERIFY(!project->state().Changed());
+    Type(project, "txtNumYear", "250");
+    QVERIFY(project->state().Changed());
+    undo->trigger();
+    QVERIFY(!project->state().Changed());
+    frame.findChild<QAction*>("mniRedo")->trigger();
+    QVERIFY(project->state().Changed());
+    undo->trigger();
+
+    auto* bar = project->findChild<ScenarioBar*>();
+    bar->runDialog = [](QDialog&) { return true; };
+    bar->addScenarios();
+    Type(project, "txtNumYear", "300");
+    undo->trigger();
+    QVERIFY(project->state().Changed());
+
+    save->trigger();
+    Type(project, "txtNumYear", "400");
+    undo->trigger();
+    QVERIFY(!project->state().Changed());
+    QVERIFY(frame.close());
   }
 
   void tilingSharesTheFrameWithoutOverlap() {

@@ -144,9 +144,9 @@ void frmProject::wireSignals() {
   connect(inputPages_, &InputPages::hintChanged, stbProject_, [this](const QString& hint) {
     stbProject_->showMessage(hint);
   });
-  // Every edit, and every undo or redo of one, changes the project.
-  connect(undo_, &QUndoStack::indexChanged, this, [this] {
-    state_.MarkChanged();
+  // Undo back to the state of the last save leaves nothing to save, unless something no undo takes back changed.
+  connect(undo_, &QUndoStack::cleanChanged, this, [this](bool clean) {
+    state_.SetEditsAsSaved(clean);
     refreshCaption();
   });
   connect(scenarioBar_, &ScenarioBar::scenarioListChanged, this, [this] {
@@ -223,6 +223,7 @@ bool frmProject::afterSave(tamsic::SaveResult result) {
   txtProjectTitle_->setText(FromFile(state_.document.title));
   refreshCaption();
   if (result != tamsic::SaveResult::Saved) return false;
+  undo_->setClean();
   settingsPage_->refresh();
   emit saved(QString::fromStdString(state_.FullPath()), FromFile(state_.document.title));
   return true;
