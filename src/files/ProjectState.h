@@ -23,13 +23,24 @@ class ProjectState {
   std::string FileStem() const;
   void SetFullPath(std::string path) { fullPath_ = std::move(path); }
 
-  bool Changed() const { return changed_; }
+  // A project changes two ways: by edits that undo can take back to where
+  // they stood when the project was saved or opened, and by changes that no
+  // undo takes back (scenarios added, deleted or reordered, the title, the
+  // project settings, the user names), which keep it changed until it is saved.
+  bool Changed() const { return changed_ || !editsAsSaved_; }
+  // A change that no undo takes back.
   void MarkChanged() { changed_ = true; }
-  void MarkUnchanged() { changed_ = false; }
+  // Whether the undoable edits stand as they did when the project was saved or opened.
+  void SetEditsAsSaved(bool asSaved) { editsAsSaved_ = asSaved; }
+  void MarkUnchanged() {
+    changed_ = false;
+    editsAsSaved_ = true;
+  }
 
  private:
   std::string fullPath_;
   bool changed_ = false;
+  bool editsAsSaved_ = true;
 };
 
 // Where the engine writes a project's result files and the result views read

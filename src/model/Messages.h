@@ -69,6 +69,9 @@ inline constexpr int kProblemWithData = 9143;
 inline constexpr int kModifiedManually = 9144;
 inline constexpr int kUnableToFindSection = 9145;
 inline constexpr int kSaveBeforeClosing = 9152;
+inline constexpr int kPasteRefused = 9160;
+inline constexpr int kPasteRemarks = 9161;
+inline constexpr int kPasteUnlisted = 9162;
 }  // namespace msg
 
 }  // namespace tamsic

@@ -10,6 +10,7 @@
 #include "GuiTestSupport.h"
 #include "app/ui/frmNewProject.h"
 #include "app/ui/mdiMain.h"
+#include "pages/ui/ScenarioBar.h"
 #include "pages/ui/frmProject.h"
 
 using namespace guitest;
@@ -21,6 +22,19 @@ QString FirstPageLink(const frmProject* project) {
 }
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
+
+// Types into a box of the project window and presses Return.
+void Type(frmProject* project, const char* box, const QString& text) {
+  auto* line = project->findChild<QLineEdit*>(box);
+  line->setFocus();
+  line->selectAll();
+  QTest::keyClicks(line, text);
+  QTest::keyClick(line, Qt::Key_Return);
+}
+
+const std::string& Years(const frmProject* project) {
+  return project->state().document.scenarios.Item(1).Text(tamsic::F("txtNumYear"));
+}
 
 }  // namespace
 
@@ -173,6 +187,77 @@ class ProjectWindowTest : public QObject {
     frame.findChild<QAction*>("mniCut")->trigger();
     QCOMPARE(title->text(), QString());
     QCOMPARE(project->windowTitle(), QString("Unnamed Tamsic Project - not previously saved"));
+  }
+
+  // The box's own undo first, then the page's; the menu names the edit and follows the active window.
+  void undoKeysTakeBackTheBoxThenThePage() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    frame.show();
+    frame.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&frame));
+    frmProject* project = frame.newProject({folder.path(), "Trout", "Ann"});
+    auto* undo = frame.findChild<QAction*>("mniUndo");
+    QVERIFY(!undo->isEnabled());
+    Type(project, "txtNumYear", "250");
+    QVERIFY(undo->isEnabled());
+    QCOMPARE(undo->text(), QString("Undo Scenario Settings"));
+
+    auto* years = project->findChild<QLineEdit*>("txtNumYear");
+    QTRY_COMPARE(QApplication::focusWidget(), years);
+    years->end(false);
+    QTest::keyClicks(years, "7");
+    QTest::keyClick(years, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(years->text(), QString("250"));
+    QCOMPARE(Years(project), std::string("250"));
+    QTest::keyClick(years, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(Years(project), std::string("100"));
+    QCOMPARE(years->text(), QString("100"));
+    QVERIFY(!undo->isEnabled());
+    QTest::keyClick(years, Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(Years(project), std::string("250"));
+    QCOMPARE(years->text(), QString("250"));
+
+    frame.newProject({folder.path(), "Salmon", "Ann"});
+    QVERIFY(!undo->isEnabled());
+    frame.mdiArea()->setActiveSubWindow(frame.mdiArea()->subWindowList().front());
+    QVERIFY(undo->isEnabled());
+  }
+
+  // Undo back to the saved state leaves nothing to save, unless a change that
+  // no undo takes back was made meanwhile.
+  void undoToTheSavedStateLeavesNothingToSave() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    frame.show();
+    frmProject* project = frame.newProject({folder.path(), "Trout", "Ann"});
+    t.saveDialog.answer = folder.filePath("Trout.tpj").toStdString();
+    auto* save = frame.findChild<QAction*>("mniSave");
+    auto* undo = frame.findChild<QAction*>("mniUndo");
+    save->trigger();
+    QVERIFY(!project->state().Changed());
+    Type(project, "txtNumYear", "250");
+    QVERIFY(project->state().Changed());
+    undo->trigger();
+    QVERIFY(!project->state().Changed());
+    frame.findChild<QAction*>("mniRedo")->trigger();
+    QVERIFY(project->state().Changed());
+    undo->trigger();
+
+    auto* bar = project->findChild<ScenarioBar*>();
+    bar->runDialog = [](QDialog&) { return true; };
+    bar->addScenarios();
+    Type(project, "txtNumYear", "300");
+    undo->trigger();
+    QVERIFY(project->state().Changed());
+
+    save->trigger();
+    Type(project, "txtNumYear", "400");
+    undo->trigger();
+    QVERIFY(!project->state().Changed());
+    QVERIFY(frame.close());
   }
 
   void tilingSharesTheFrameWithoutOverlap() {

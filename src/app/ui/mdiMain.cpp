@@ -12,6 +12,8 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QToolBar>
+#include <QUndoGroup>
+#include <QUndoStack>
 
 #include "app/ui/FileFilter.h"
 #include "app/ui/Program.h"
@@ -116,10 +118,42 @@ void mdiMain::buildFileMenu() {
 }
 
 void mdiMain::buildEditMenu() {
+  undoGroup_ = new QUndoGroup(this);
+  mniUndo_ = undoAction("mniUndo", 9080, true);
+  mniRedo_ = undoAction("mniRedo", 9081, false);
   mniCut_ = action("mniCut", 9034);
   mniCopy_ = action("mniCopy", 9035);
   mniPaste_ = action("mniPaste", 9036);
-  menuBar()->addMenu(text(9033))->addActions({mniCut_, mniCopy_, mniPaste_});
+  QMenu* edit = menuBar()->addMenu(text(9033));
+  edit->addActions({mniUndo_, mniRedo_});
+  edit->addSeparator();
+  edit->addActions({mniCut_, mniCopy_, mniPaste_});
+}
+
+// The text says what the command takes back ("Undo Mortality Rates"); the
+// command itself goes through the project window, so that a text box in focus
+// takes back its own typing first.
+QAction* mdiMain::undoAction(const char* name, int prefix, bool undo) {
+  QAction* item = action(name, prefix);
+  item->setEnabled(false);
+  if (undo) {
+    item->setShortcut(QKeySequence::Undo);
+  } else {
+    QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::Redo);
+    // Ctrl+Y is the redo key of many programs, whatever the desktop's own is.
+    if (!keys.contains(QKeySequence(Qt::CTRL | Qt::Key_Y))) keys << QKeySequence(Qt::CTRL | Qt::Key_Y);
+    item->setShortcuts(keys);
+  }
+  item->setIcon(undo ? ThemeIcon("edit-undo", *style(), QStyle::SP_ArrowBack)
+                     : ThemeIcon("edit-redo", *style(), QStyle::SP_ArrowForward));
+  const QString word = text(prefix);
+  const auto naming = [item, word](const QString& edit) { item->setText(edit.isEmpty() ? word : word + ' ' + edit); };
+  connect(undoGroup_, undo ? &QUndoGroup::undoTextChanged : &QUndoGroup::redoTextChanged, item, naming);
+  connect(undoGroup_, undo ? &QUndoGroup::canUndoChanged : &QUndoGroup::canRedoChanged, item, &QAction::setEnabled);
+  connect(item, &QAction::triggered, this, [this, undo] {
+    if (frmProject* project = activeProject()) undo ? project->undo() : project->redo();
+  });
+  return item;
 }
 
 void mdiMain::buildProjectMenu() {
@@ -167,6 +201,9 @@ void mdiMain::buildToolbar() {
   add("tblCut", 1404, QIcon::fromTheme("edit-cut"));
   add("tblCopy", 1405, QIcon::fromTheme("edit-copy"));
   add("tblPaste", 1406, QIcon::fromTheme("edit-paste"));
+  toolbar_->addSeparator();
+  // The Edit menu's own commands, so that their tips name the edit they take back.
+  toolbar_->addActions({mniUndo_, mniRedo_});
   toolbar_->addSeparator();
   tblRun_ = add("tblRun", 1412, ThemeIcon("media-playback-start", look, QStyle::SP_MediaPlay));
 }
@@ -254,10 +291,11 @@ void mdiMain::checkCurrentLanguage() {
 }
 
 void mdiMain::updateCommands() {
-  const bool project = activeProject() != nullptr;
+  frmProject* active = activeProject();
   for (QAction* item : {mniCloseProject_, mniSave_, mniSaveAs_, tblSave_, mniAddName_,
                         mniEditName_, mniRemoveName_, mniRunSim_, tblRun_})
-    item->setEnabled(project);
+    item->setEnabled(active != nullptr);
+  undoGroup_->setActiveStack(active ? active->undoStack() : nullptr);
 }
 
 frmProject* mdiMain::activeProject() const {
@@ -334,6 +372,7 @@ frmProject* mdiMain::newProject(const NewProjectRequest& request) {
 }
 
 frmProject* mdiMain::addProjectWindow(frmProject* window) {
+  undoGroup_->addStack(window->undoStack());
   QMdiSubWindow* sub = mdiArea_->addSubWindow(window);
   sub->setAttribute(Qt::WA_DeleteOnClose);
   connect(window, &frmProject::saved, this, &mdiMain::projectSaved);

@@ -14,6 +14,7 @@ class QActionGroup;
 class QMdiArea;
 class QMenu;
 class QToolBar;
+class QUndoGroup;
 class frmProject;
 
 class mdiMain : public QMainWindow {
@@ -64,6 +65,8 @@ class mdiMain : public QMainWindow {
   std::optional<tamsic::OpenedProject> readProject(const std::string& file, bool makeBackups);
   void projectSaved(const QString& path, const QString& title);
   void sendKeyToFocus(int key);
+  // An undo or redo command that names the edit it takes back and follows the active project window.
+  QAction* undoAction(const char* name, int prefix, bool undo);
   QString text(int number) const;
 
   Program& program_;
@@ -80,6 +83,9 @@ class mdiMain : public QMainWindow {
   QAction* mniSaveAs_ = nullptr;
   QAction* mniProperties_ = nullptr;
   QAction* mniExit_ = nullptr;
+  QUndoGroup* undoGroup_ = nullptr;
+  QAction* mniUndo_ = nullptr;
+  QAction* mniRedo_ = nullptr;
   QAction* mniCut_ = nullptr;
   QAction* mniCopy_ = nullptr;
   QAction* mniPaste_ = nullptr;

@@ -75,6 +75,11 @@ void FieldBindings::left(TextBox& entry, Leaving leaving) {
     return;
   }
   entry.accepted = text;
+  // Setting the text empties the box's own undo: what was typed is stored now,
+  // and the undo key goes on to the page's edits.
+  const int caret = entry.box->cursorPosition();
+  entry.box->setText(entry.accepted);
+  entry.box->setCursorPosition(caret);
   edited_();
 }
 

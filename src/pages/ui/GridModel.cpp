@@ -19,8 +19,8 @@ bool SameHeadings(const tamsic::Grid& a, const tamsic::Grid& b) {
 }
 }  // namespace
 
-GridModel::GridModel(tamsic::Field field, bool headingRow, QObject* parent)
-    : QAbstractTableModel(parent), field_(field), headingRow_(headingRow) {}
+GridModel::GridModel(tamsic::Messages& messages, tamsic::Field field, bool headingRow, QObject* parent)
+    : QAbstractTableModel(parent), messages_(messages), field_(field), headingRow_(headingRow) {}
 
 // Headings change rarely; telling the view only when they do spares it
 // measuring every heading again on each change of scenario.
@@ -117,7 +117,7 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
     return false;
   }
   if (text == grid_.at(row, col)) return true;
-  if (use(index) == CellUse::Value && refuses(row, col, text)) {
+  if (use(index) == CellUse::Value && refuses(row, col, text, messages_)) {
     emit refused(index);
     return false;
   }
@@ -125,4 +125,15 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
   emit dataChanged(index, index);
   emit committed(row, col);
   return true;
+}
+
+void GridModel::setTexts(const std::vector<tamsic::PlacedText>& texts) {
+  if (texts.empty()) return;
+  for (const tamsic::PlacedText& placed : texts) {
+    const QModelIndex cell = index(static_cast<int>(placed.spot.row), static_cast<int>(placed.spot.col));
+    grid_.at(gridRow(cell), gridCol(cell)) = placed.text;
+    emit dataChanged(cell, cell);
+  }
+  const QModelIndex first = index(static_cast<int>(texts.front().spot.row), static_cast<int>(texts.front().spot.col));
+  emit committed(gridRow(first), gridCol(first));
 }

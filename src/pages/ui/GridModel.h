@@ -7,9 +7,11 @@
 #include <QAbstractTableModel>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "model/Grid.h"
 #include "model/ScenarioFields.h"
+#include "pages/CellBlock.h"
 #include "pages/ui/PageContext.h"
 
 enum class CellUse {
@@ -22,7 +24,8 @@ enum class CellUse {
 class GridModel : public QAbstractTableModel {
   Q_OBJECT
  public:
-  GridModel(tamsic::Field field, bool headingRow, QObject* parent = nullptr);
+  // The checks of typed values tell the user through `messages`.
+  GridModel(tamsic::Messages& messages, tamsic::Field field, bool headingRow, QObject* parent = nullptr);
 
   tamsic::Field field() const { return field_; }
   const tamsic::Grid& grid() const { return grid_; }
@@ -41,10 +44,9 @@ class GridModel : public QAbstractTableModel {
   std::function<QStringList(int row, int col)> choices;
   // How a stored heading is shown; as stored unless the page translates it.
   std::function<QString(const std::string& stored)> heading;
-  // Answers true when the text must not be accepted (the user has been told why).
-  std::function<bool(int row, int col, const std::string& text)> refuses = [](int, int, const std::string&) {
-    return false;
-  };
+  // Answers true when the text must not be accepted (the user has been told why, through `messages`).
+  std::function<bool(int row, int col, const std::string& text, tamsic::Messages& messages)> refuses =
+      [](int, int, const std::string&, tamsic::Messages&) { return false; };
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -52,6 +54,10 @@ class GridModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   Qt::ItemFlags flags(const QModelIndex& index) const override;
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+  // Stores texts that have passed their checks into many cells at once (spots
+  // are model rows and columns), as a paste or a clearing does; one
+  // `committed` for all of them, so that the page records one edit.
+  void setTexts(const std::vector<tamsic::PlacedText>& texts);
 
  signals:
   // A user edit passed its check and is in the grid.
@@ -63,6 +69,7 @@ class GridModel : public QAbstractTableModel {
   QString shownHeading(const std::string& stored) const { return heading ? heading(stored) : FromRecord(stored); }
   CellUse use(const QModelIndex& index) const { return cellUse(gridRow(index), gridCol(index)); }
 
+  tamsic::Messages& messages_;
   tamsic::Field field_;
   bool headingRow_;
   bool enabled_ = true;

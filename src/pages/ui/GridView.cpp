@@ -1,12 +1,15 @@
 #include "pages/ui/GridView.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QStyle>
 #include <QStyledItemDelegate>
 
+#include "pages/ui/GridClipboard.h"
 #include "pages/ui/PageContext.h"
 
 namespace {
@@ -48,7 +51,7 @@ class ChoiceDelegate : public QStyledItemDelegate {
 
 GridView::GridView(const PageContext& context, tamsic::Field field, const char* name, int hint, bool headingRow,
                    QWidget* parent)
-    : QTableView(parent), context_(context), model_(new GridModel(field, headingRow, this)) {
+    : QTableView(parent), context_(context), model_(new GridModel(context.messages, field, headingRow, this)) {
   setObjectName(name);
   setToolTip(context.text(hint));
   setModel(model_);
@@ -56,7 +59,7 @@ GridView::GridView(const PageContext& context, tamsic::Field field, const char* 
   // Typing starts an edit; merely moving onto a cell does not, so that the arrow keys move between cells.
   setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
                   QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
-  setSelectionMode(QAbstractItemView::SingleSelection);
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
   setCornerButtonEnabled(false);
   horizontalHeader()->setDefaultAlignment(Qt::Alignment(Qt::AlignCenter | Qt::TextWordWrap));
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
@@ -157,7 +160,27 @@ void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint h
   if (hint == QAbstractItemDelegate::NoHint) emitHint(currentIndex());
 }
 
+bool GridView::editBlock(QKeyEvent* event) {
+  if (state() == EditingState) return false;
+  QModelIndexList cells = selectionModel()->selectedIndexes();
+  if (cells.isEmpty() && currentIndex().isValid()) cells << currentIndex();
+  if (cells.isEmpty()) return false;
+  QClipboard* clipboard = QGuiApplication::clipboard();
+  if (event->matches(QKeySequence::Copy) || event->matches(QKeySequence::Cut)) {
+    clipboard->setText(CopiedText(*model_, cells));
+    if (event->matches(QKeySequence::Cut)) ClearCells(*model_, cells, context_);
+  } else if (event->matches(QKeySequence::Paste)) {
+    PasteText(*model_, cells, clipboard->text(), context_);
+  } else if (event->matches(QKeySequence::Delete)) {
+    ClearCells(*model_, cells, context_);
+  } else {
+    return false;
+  }
+  return true;
+}
+
 void GridView::keyPressEvent(QKeyEvent* event) {
+  if (editBlock(event)) return;
   const QModelIndex index = currentIndex();
   const bool valueCell = index.isValid() && (model_->flags(index) & Qt::ItemIsEditable);
   if (valueCell && event->text() == "=" && state() != EditingState && context_.openEquationEditor &&

@@ -2,7 +2,8 @@
 // The table view of one grid of an input page. A refused value keeps its
 // editor open with the caret after the text, so the user corrects what they
 // typed; "=" in a cell may open the equation editor; entering a cell tells
-// the page which hint to show.
+// the page which hint to show. Blocks of cells are selected, copied, cut,
+// pasted and cleared as in a spreadsheet.
 #include <QTableView>
 
 #include "pages/ui/GridModel.h"
@@ -36,6 +37,8 @@ class GridView : public QTableView {
  private:
   void fitHeadings();
   void emitHint(const QModelIndex& index);
+  // Cut, copy, paste and delete of the selected cells; answers whether the key was one of them.
+  bool editBlock(QKeyEvent* event);
 
   const PageContext& context_;
   GridModel* model_;

@@ -85,9 +85,9 @@ GridView* InputPage::gridView(const char* name, tamsic::Field field) {
   connect(view->grid(), &GridModel::committed, this, [this] {
     if (!updating_) emit edited();
   });
-  view->grid()->refuses = [this, field, view](int row, int col, const std::string& text) {
+  view->grid()->refuses = [this, field, view](int row, int col, const std::string& text, tamsic::Messages& messages) {
     return tamsic::TestGridCell(field, view->grid()->grid(), static_cast<std::size_t>(row),
-                                static_cast<std::size_t>(col), text, context_.messages, context_.engine);
+                                static_cast<std::size_t>(col), text, messages, context_.engine);
   };
   return view;
 }

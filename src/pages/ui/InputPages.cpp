@@ -1,8 +1,9 @@
 #include "pages/ui/InputPages.h"
 
-#include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QUndoStack>
@@ -107,15 +108,9 @@ void InputPages::wire() {
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     if (now && isAncestorOf(now) && !now->toolTip().isEmpty() && !qobject_cast<GridView*>(now))
       emit hintChanged(now->toolTip());
+    // Installing a filter again only moves it to the front.
+    if (auto* box = qobject_cast<QLineEdit*>(now); box && isAncestorOf(box)) box->installEventFilter(this);
   });
-  QAction* undo = undo_.createUndoAction(this);
-  undo->setShortcut(QKeySequence::Undo);
-  QAction* redo = undo_.createRedoAction(this);
-  redo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y));
-  for (QAction* action : {undo, redo}) {
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    addAction(action);
-  }
 }
 
 QString InputPages::pageTitle(int index) const { return page(index)->title(); }
@@ -221,4 +216,52 @@ void InputPages::putBack(std::size_t scenario, int page, const tamsic::clsScenar
   showPage(page);
   emit scenarioShown(scenario);
   emit scenarioNamesChanged();
+}
+
+QLineEdit* InputPages::focusedBox() const {
+  auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  return box && isAncestorOf(box) ? box : nullptr;
+}
+
+void InputPages::closeCellEditor() {
+  QWidget* focus = QApplication::focusWidget();
+  for (QWidget* up = focus && isAncestorOf(focus) ? focus->parentWidget() : nullptr; up && up != this;
+       up = up->parentWidget())
+    if (auto* grid = qobject_cast<GridView*>(up)) {
+      grid->setFocus();
+      return;
+    }
+}
+
+void InputPages::undo() {
+  if (QLineEdit* box = focusedBox(); box && box->isUndoAvailable()) {
+    box->undo();
+    return;
+  }
+  closeCellEditor();
+  undo_.undo();
+}
+
+// Typing not yet stored stays with its box: the page's redo would show the
+// record over it.
+void InputPages::redo() {
+  if (QLineEdit* box = focusedBox(); box && (box->isUndoAvailable() || box->isRedoAvailable())) {
+    box->redo();
+    return;
+  }
+  closeCellEditor();
+  undo_.redo();
+}
+
+bool InputPages::eventFilter(QObject* watched, QEvent* event) {
+  auto* box = qobject_cast<QLineEdit*>(watched);
+  if (box && event->type() == QEvent::ShortcutOverride) {
+    auto* key = static_cast<QKeyEvent*>(event);
+    if ((key->matches(QKeySequence::Undo) && !box->isUndoAvailable()) ||
+        (key->matches(QKeySequence::Redo) && !box->isUndoAvailable() && !box->isRedoAvailable())) {
+      event->ignore();
+      return true;
+    }
+  }
+  return QWidget::eventFilter(watched, event);
 }

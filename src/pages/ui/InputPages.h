@@ -15,6 +15,7 @@
 class CopyInputValuesBar;
 class InputPage;
 class QLabel;
+class QLineEdit;
 class QStackedWidget;
 class QUndoStack;
 class ScenarioSettingsPage;
@@ -57,6 +58,16 @@ class InputPages : public QWidget {
   // Used by undo and redo: puts a record back and shows where it changed.
   void putBack(std::size_t scenario, int page, const tamsic::clsScenario& record);
 
+  // The undo and redo commands: a text box or cell editor in focus takes back
+  // what was typed in it and not yet stored; then the page's edits go back.
+  void undo();
+  void redo();
+
+ protected:
+  // A text box claims the undo and redo keys even with nothing of its own to
+  // take back; then they go on to the commands, which take back page edits.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  signals:
   void hintChanged(const QString& hint);
   void availabilityChanged();
@@ -73,6 +84,11 @@ class InputPages : public QWidget {
   void copyInputValues(int from, bool allSections);
   void spreadByStableAges(const tamsic::clsScenario& before, tamsic::clsScenario& after);
   void applyCrossPageRules(const tamsic::clsScenario& record);
+  // The text box or cell editor of these pages that has the focus, if any.
+  QLineEdit* focusedBox() const;
+  // A cell editor in focus closes, storing what it holds, before the record
+  // it shows changes under it; else it would store its old text over the record put back.
+  void closeCellEditor();
 
   const PageContext& context_;
   tamsic::ScenarioCollection& scenarios_;

@@ -24,6 +24,8 @@ struct PageContext {
   // (the window saves the project for the engine); answers the error, if any.
   std::function<std::optional<std::string>(tamsic::clsScenario& record, std::size_t number)> stableAgeDistribution =
       nullptr;
+  // The user's decimal separator: numbers pasted from their spreadsheets may use a comma.
+  char decimalSeparator = '.';
 
   QString text(int number) const { return QString::fromStdString(strings.text(number)); }
 };

@@ -66,6 +66,7 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
       undo_(new QUndoStack(this)) {
   setObjectName("frmProject");
   context_.showEquationDialogOnEquals = [this] { return program_.settings.showEquationDialogOnEquals != 0; };
+  context_.decimalSeparator = program.decimalSeparator;
   context_.stableAgeDistribution = [this](tamsic::clsScenario& record, std::size_t number) {
     return stableAgeDistribution(record, number);
   };
@@ -80,6 +81,12 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
   wireSignals();
   refreshLinks();
   refreshCaption();
+}
+
+frmProject::~frmProject() {
+  // The undo stack empties itself as it goes, after this window's members are
+  // gone; telling the window of it would reach them.
+  disconnect(undo_, nullptr, this, nullptr);
 }
 
 QWidget* frmProject::buildHeader() {
@@ -141,9 +148,9 @@ void frmProject::wireSignals() {
   connect(inputPages_, &InputPages::hintChanged, stbProject_, [this](const QString& hint) {
     stbProject_->showMessage(hint);
   });
-  // Every edit, and every undo or redo of one, changes the project.
-  connect(undo_, &QUndoStack::indexChanged, this, [this] {
-    state_.MarkChanged();
+  // Undo back to the state of the last save leaves nothing to save, unless something no undo takes back changed.
+  connect(undo_, &QUndoStack::cleanChanged, this, [this](bool clean) {
+    state_.SetEditsAsSaved(clean);
     refreshCaption();
   });
   connect(scenarioBar_, &ScenarioBar::scenarioListChanged, this, [this] {
@@ -165,6 +172,16 @@ void frmProject::wireSignals() {
     const QSignalBlocker quiet(hypInput_);
     hypInput_->setCurrentRow(page);
   });
+}
+
+void frmProject::undo() {
+  tabs_->setCurrentIndex(0);
+  inputPages_->undo();
+}
+
+void frmProject::redo() {
+  tabs_->setCurrentIndex(0);
+  inputPages_->redo();
 }
 
 std::size_t frmProject::currentScenario() const { return inputPages_->currentScenario(); }
@@ -210,6 +227,7 @@ bool frmProject::afterSave(tamsic::SaveResult result) {
   txtProjectTitle_->setText(FromFile(state_.document.title));
   refreshCaption();
   if (result != tamsic::SaveResult::Saved) return false;
+  undo_->setClean();
   settingsPage_->refresh();
   emit saved(QString::fromStdString(state_.FullPath()), FromFile(state_.document.title));
   return true;

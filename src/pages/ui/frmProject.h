@@ -30,6 +30,7 @@ class frmProject : public QWidget {
   static constexpr int kPageCount = 14;
 
   frmProject(Program& program, tamsic::ProjectState state, QWidget* parent = nullptr);
+  ~frmProject() override;
 
   const tamsic::ProjectState& state() const { return state_; }
 
@@ -40,6 +41,13 @@ class frmProject : public QWidget {
   void addUserName();
   void editUserName();
   void removeUserName();
+
+  // The edits of the input pages, for the main frame's undo and redo commands.
+  QUndoStack* undoStack() const { return undo_; }
+  // Undo and redo show the input pages, where the edits are; a text box in
+  // focus takes back its own typing first.
+  void undo();
+  void redo();
 
   // The scenario on show, counted from 1.
   std::size_t currentScenario() const;
