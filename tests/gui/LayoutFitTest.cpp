@@ -55,7 +55,10 @@ QStringList CutHeadings(const GridView* view) {
   QStringList cut;
   const QHeaderView* header = view->horizontalHeader();
   const int margin = header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
-  const QFontMetrics metrics = header->fontMetrics();
+  // A selected column's heading is bold.
+  QFont bold = header->font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);
   for (int c = 0; c < header->count(); ++c) {
     const QString heading = view->model()->headerData(c, Qt::Horizontal).toString();
     const QRect room(0, 0, header->sectionSize(c) - 2 * margin, header->height() - 2 * margin);

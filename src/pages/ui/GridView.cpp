@@ -105,22 +105,32 @@ QSize GridView::minimumSizeHint() const {
   return {std::min(width, sizeHint().width()), QTableView::minimumSizeHint().height()};
 }
 
-// Long headings wrap over up to four lines; columns are as wide as their
-// longest word or their values need.
+// Long headings wrap over up to four lines, widening their column rather
+// than taking a fifth; columns are as wide as their longest word or their
+// values need. Measured in bold, as the heading of a selected column shows.
 void GridView::fitHeadings() {
-  const QFontMetrics metrics = horizontalHeader()->fontMetrics();
+  constexpr int kMostLines = 4;
+  constexpr int kWidestColumn = 320;
+  QFont bold = horizontalHeader()->font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);
+  const int margin = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader()) + 2;
+  const auto linesAt = [&metrics, margin](int width, const QString& heading) {
+    return metrics.boundingRect(QRect(0, 0, width - margin, 1000), Qt::TextWordWrap, heading).height() /
+           metrics.lineSpacing();
+  };
   int lines = 1;
   for (int c = 0; c < model_->columnCount(); ++c) {
     const QString heading = model_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
     int widest = metrics.horizontalAdvance("00000000");
     for (const QString& word : heading.split(' ')) widest = std::max(widest, metrics.horizontalAdvance(word));
-    const int width = std::min(std::max({widest + 12, std::min(metrics.horizontalAdvance(heading) + 12, 130),
-                                         sizeHintForColumn(c)}), 220);
+    int width = std::min(std::max({widest + margin, std::min(metrics.horizontalAdvance(heading) + margin, 130),
+                                   sizeHintForColumn(c)}), 220);
+    while (linesAt(width, heading) > kMostLines && width < kWidestColumn) width += 10;
     setColumnWidth(c, width);
-    const QRect wrapped = metrics.boundingRect(QRect(0, 0, width - 10, 1000), Qt::TextWordWrap, heading);
-    lines = std::max(lines, std::min(wrapped.height() / metrics.lineSpacing(), 4));
+    lines = std::max(lines, linesAt(width, heading));
   }
-  horizontalHeader()->setFixedHeight(metrics.lineSpacing() * lines + 14);
+  horizontalHeader()->setFixedHeight(metrics.lineSpacing() * lines + margin + 8);
   updateGeometry();
 }
 
