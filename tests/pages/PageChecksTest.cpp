@@ -143,6 +143,15 @@ void PageChecksTest::aRefusedValueNeverOutlivesItsBox() {
   h.pages->commitPending();
   QCOMPARE(years->text(), QString("100"));
   QCOMPARE(h.record().Text(F("txtNumYear")), std::string("100"));
+
+  GridView* view = h.grid("gridMortMales");
+  h.box.expect("Invalid input");
+  h.editCell("gridMortMales", 1, 3, "100.5");
+  QTRY_VERIFY(h.box.allShown());
+  h.box.expect("Invalid input");
+  h.pages->commitPending();
+  QVERIFY(view->indexWidget(view->currentIndex()) == nullptr);
+  QCOMPARE(view->grid()->indexAt(1, 3).data().toString(), QString::fromStdString(h.cell("gridMortMales", 1, 3)));
   QCOMPARE(h.undo.count(), 0);
 }
 

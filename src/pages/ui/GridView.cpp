@@ -83,6 +83,12 @@ void GridView::setGridEnabled(bool enabled) {
   setEnabled(enabled);
 }
 
+void GridView::dropRefusedEdit() {
+  if (state() != EditingState) return;
+  if (QWidget* editor = indexWidget(currentIndex()))
+    QTableView::closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+}
+
 QSize GridView::sizeHint() const {
   constexpr int kWidest = 1200;
   constexpr int kHighest = 600;

@@ -19,6 +19,8 @@ class GridView : public QTableView {
   GridModel* grid() const { return model_; }
   // Enables the grid and paints it white, or disables it and paints it grey.
   void setGridEnabled(bool enabled);
+  // Closes an editor kept open on a refused value; the cell shows its stored value again.
+  void dropRefusedEdit();
   // The hint of a cell (grid coordinates); the grid's own hint by default.
   std::function<int(int row, int col)> hintOf;
   QSize sizeHint() const override;

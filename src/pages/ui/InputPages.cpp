@@ -147,6 +147,8 @@ void InputPages::commitPending() {
   for (InputPage* page : pages_) page->settle();
   QWidget* focus = QApplication::focusWidget();
   if (focus && isAncestorOf(focus)) focus->clearFocus();
+  // Leaving a cell committed what it could; an editor still open holds a refused value.
+  for (GridView* view : findChildren<GridView*>()) view->dropRefusedEdit();
 }
 
 void InputPages::storePages(tamsic::clsScenario& record) const {
