@@ -14,6 +14,7 @@
 #include "GuiTestSupport.h"
 #include "app/ui/WindowArrangement.h"
 #include "app/ui/mdiMain.h"
+#include "pages/ui/FlowLayout.h"
 #include "pages/ui/GridView.h"
 #include "pages/ui/InputPages.h"
 #include "pages/ui/frmProject.h"
@@ -103,6 +104,21 @@ class LayoutFitTest : public QObject {
 
  private slots:
   void init() { ClearSettings(); }
+
+  // A row wraps only when it must: at the width it asks for it takes one line.
+  void aFlowWrapsOnlyWhenItMust() {
+    QWidget row;
+    auto* flow = new FlowLayout(&row, 12);
+    for (int width : {341, 309}) {
+      auto* part = new QWidget(&row);
+      part->setFixedSize(width, 23);
+      flow->addWidget(part);
+    }
+    QCOMPARE(flow->sizeHint(), QSize(662, 23));
+    QCOMPARE(flow->heightForWidth(662), 23);
+    QCOMPARE(flow->heightForWidth(661), 23 + 12 + 23);
+    QCOMPARE(flow->heightForWidth(200), 23 + 12 + 23);
+  }
 
   void everyPageReadsFully_data() {
     QTest::addColumn<int>("language");

@@ -22,7 +22,7 @@ int FlowLayout::heightForWidth(int width) const { return arrange(QRect(0, 0, wid
 
 // Everything on one line.
 QSize FlowLayout::sizeHint() const {
-  QSize size;
+  QSize size(0, 0);
   for (const QLayoutItem* item : items_) {
     if (item->isEmpty()) continue;
     const QSize hint = item->sizeHint();
@@ -35,7 +35,7 @@ QSize FlowLayout::sizeHint() const {
 
 // As narrow as the widest item, each on a line of its own.
 QSize FlowLayout::minimumSize() const {
-  QSize size;
+  QSize size(0, 0);
   for (const QLayoutItem* item : items_)
     if (!item->isEmpty()) size = size.expandedTo(item->minimumSize());
   const QMargins margins = contentsMargins();
