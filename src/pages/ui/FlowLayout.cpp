@@ -1,6 +1,7 @@
 #include "pages/ui/FlowLayout.h"
 
 #include <QWidget>
+#include <vector>
 
 FlowLayout::FlowLayout(QWidget* parent, int spacing) : QLayout(parent), spacing_(spacing) {
   setContentsMargins(0, 0, 0, 0);
@@ -47,23 +48,38 @@ void FlowLayout::setGeometry(const QRect& rect) {
   arrange(rect, true);
 }
 
+// Items on a line are centred on it, so that a label reads level with the
+// boxes and buttons beside it.
 int FlowLayout::arrange(const QRect& rect, bool place) const {
   const QRect area = rect.marginsRemoved(contentsMargins());
-  int x = area.x();
+  struct Placed {
+    QLayoutItem* item;
+    QRect geometry;
+  };
+  std::vector<Placed> line;
   int y = area.y();
   int lineHeight = 0;
+  const auto endLine = [&] {
+    if (place)
+      for (const Placed& placed : line)
+        placed.item->setGeometry(placed.geometry.translated(0, (lineHeight - placed.geometry.height()) / 2));
+    line.clear();
+  };
+  int x = area.x();
   for (QLayoutItem* item : items_) {
     if (item->isEmpty()) continue;
     const int width = std::min(item->sizeHint().width(), area.width());
     const int height = item->hasHeightForWidth() ? item->heightForWidth(width) : item->sizeHint().height();
     if (x > area.x() && x + width > area.right() + 1) {
+      endLine();
       x = area.x();
       y += lineHeight + spacing_;
       lineHeight = 0;
     }
-    if (place) item->setGeometry(QRect(x, y, width, height));
+    line.push_back({item, QRect(x, y, width, height)});
     x += width + spacing_;
     lineHeight = std::max(lineHeight, height);
   }
+  endLine();
   return y + lineHeight - rect.y() + contentsMargins().bottom();
 }

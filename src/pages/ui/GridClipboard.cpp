@@ -82,9 +82,17 @@ QString CopiedText(const GridModel& model, const QModelIndexList& selected) {
   return FromRecord(tamsic::FormTabSeparated(block));
 }
 
-void PasteText(GridModel& model, const QModelIndexList& selected, const QString& text, const PageContext& context) {
+QItemSelection PasteText(GridModel& model, const QModelIndexList& selected, const QString& text,
+                         const PageContext& context) {
   const tamsic::CellBlock block = tamsic::ParseTabSeparated(ToRecord(text));
-  Store(model, tamsic::PlaceBlock(block, Spots(selected), model.rowCount(), model.columnCount()), context);
+  const auto placed = tamsic::PlaceBlock(block, Spots(selected), model.rowCount(), model.columnCount());
+  QItemSelection covered;
+  for (const tamsic::PlacedText& cell : placed) {
+    const QModelIndex index = model.index(static_cast<int>(cell.spot.row), static_cast<int>(cell.spot.col));
+    covered.select(index, index);
+  }
+  Store(model, placed, context);
+  return covered;
 }
 
 void ClearCells(GridModel& model, const QModelIndexList& selected, const PageContext& context) {

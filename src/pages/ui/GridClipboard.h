@@ -5,6 +5,7 @@
 // cells named in the one message told after the whole block, rather than
 // mending the source of a long paste for one bad value, and one undo takes the
 // whole paste back when they want none of it. The stored cells make one edit.
+#include <QItemSelection>
 #include <QModelIndexList>
 #include <QString>
 
@@ -17,8 +18,10 @@ QString CopiedText(const GridModel& model, const QModelIndexList& selected);
 
 // Pastes tab-separated text at the top left of the selected cells, or into
 // each of them when it is a single value; headings, computed cells and what
-// lies beyond the grid are left out.
-void PasteText(GridModel& model, const QModelIndexList& selected, const QString& text, const PageContext& context);
+// lies beyond the grid are left out. Answers the block the paste covered, for
+// the view to select as spreadsheets do.
+QItemSelection PasteText(GridModel& model, const QModelIndexList& selected, const QString& text,
+                         const PageContext& context);
 
 // Empties the selected cells that take typed values. Check boxes and choices
 // have no empty state, so they stay as they are.

@@ -186,7 +186,8 @@ bool GridView::editBlock(QKeyEvent* event) {
     clipboard->setText(CopiedText(*model_, cells));
     if (event->matches(QKeySequence::Cut)) ClearCells(*model_, cells, context_);
   } else if (event->matches(QKeySequence::Paste)) {
-    PasteText(*model_, cells, clipboard->text(), context_);
+    const QItemSelection covered = PasteText(*model_, cells, clipboard->text(), context_);
+    if (!covered.isEmpty()) selectionModel()->select(covered, QItemSelectionModel::ClearAndSelect);
   } else if (event->matches(QKeySequence::Delete)) {
     ClearCells(*model_, cells, context_);
   } else {
