@@ -43,7 +43,11 @@ std::optional<std::string> ShownForm(std::string_view stored, const Form& form, 
     const Piece& piece = form.pieces[i];
     if (!stored.starts_with(piece.english)) return std::nullopt;
     stored.remove_prefix(piece.english.size());
-    if (piece.caption) shown += words.text(piece.caption);
+    if (piece.caption) {
+      const std::string word = words.text(piece.caption);
+      if (word.empty()) return std::nullopt;
+      shown += word;
+    }
     if (i == form.numbers) break;
     const std::size_t digits = DigitsAtStart(stored);
     if (digits == 0) return std::nullopt;
@@ -87,14 +91,15 @@ std::string MakeHeading(MadeHeading heading, int age) {
 std::optional<std::string> ShownHeading(std::string_view stored, const IStringTable& words) {
   static const std::vector<LineHeading> lines = LineHeadings();
   for (const LineHeading& line : lines) {
-    if (!line.numbered) {
-      if (stored == line.heading) return words.text(line.caption);
-      continue;
-    }
-    const std::string_view rest = stored.substr(std::min(line.heading.size() + 1, stored.size()));
-    if (stored.starts_with(line.heading) && stored.size() > line.heading.size() + 1 &&
-        stored[line.heading.size()] == ' ' && DigitsAtStart(rest) == rest.size())
-      return words.text(line.caption) + " " + std::string(rest);
+    const std::size_t size = line.heading.size();
+    const std::string_view number = stored.size() > size + 1 ? stored.substr(size + 1) : std::string_view();
+    const bool numbered = line.numbered && !number.empty() && stored.starts_with(line.heading) &&
+                          stored[size] == ' ' && DigitsAtStart(number) == number.size();
+    const bool plain = !line.numbered && stored == line.heading;
+    if (!numbered && !plain) continue;
+    const std::string word = words.text(line.caption);
+    if (word.empty()) return std::nullopt;
+    return numbered ? word + " " + std::string(number) : word;
   }
   for (const Form& form : kForms)
     if (auto shown = ShownForm(stored, form, words)) return shown;

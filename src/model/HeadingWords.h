@@ -26,7 +26,8 @@ enum class MadeHeading {
 std::string MakeHeading(MadeHeading heading, int age = 0);
 
 // A heading that a layout makes, in the language of `words`; nothing for any
-// other text, such as a population's label or a state variable's name (PS1).
+// other text, such as a population's label or a state variable's name (PS1),
+// and nothing when the table lacks the heading's words.
 std::optional<std::string> ShownHeading(std::string_view stored, const IStringTable& words);
 
 }  // namespace tamsic

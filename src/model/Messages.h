@@ -38,6 +38,7 @@ class Messages {
   Messages(IMessageBox& box, const IStringTable& strings) : box_(box), strings_(strings) {}
 
   std::string text(int number) const { return strings_.text(number); }
+  const IStringTable& strings() const { return strings_; }
   MsgAnswer show(const MessageBoxRequest& request) { return box_.show(request); }
   MsgAnswer show(std::string text, int captionNumber, MsgIcon icon,
                  MsgButtons buttons = MsgButtons::Ok) {
@@ -67,6 +68,27 @@ inline constexpr int kProjectDoesNotExist = 9139;
 inline constexpr int kProblemWithData = 9143;
 inline constexpr int kModifiedManually = 9144;
 inline constexpr int kUnableToFindSection = 9145;
+// What is wrong with a value and where it is; the engine's English is built into EnglishInputWords.
+inline constexpr int kMustBeNumber = 9152;
+inline constexpr int kMustBeNumberOrFunction = 9153;
+inline constexpr int kMustBeWhole = 9154;
+inline constexpr int kMustBeAtLeast = 9155;
+inline constexpr int kMustBeAtMost = 9156;
+inline constexpr int kMustBeSwitch = 9157;
+inline constexpr int kMustBePlace = 9158;
+inline constexpr int kRow = 9159;
+inline constexpr int kColumn = 9160;
+inline constexpr int kPercentOrProportion = 9161;
+inline constexpr int kWholeAgeOfReproduction = 9162;
+inline constexpr int kWholeMaximumAge = 9163;
+inline constexpr int kWholeBroods = 9164;
+inline constexpr int kWholeProgeny = 9165;
+inline constexpr int kCaution = 9166;
+inline constexpr int kStableAgesWithFunctions = 9167;
+inline constexpr int kBreedToKWithFunctions = 9168;
+inline constexpr int kNameCharacters = 9169;
+inline constexpr int kNameNotUnique = 9170;
+inline constexpr int kCannotDeleteST = 9171;
 }  // namespace msg
 
 }  // namespace tamsic
