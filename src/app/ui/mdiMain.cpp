@@ -345,7 +345,8 @@ void mdiMain::newProjectDialog() {
 }
 
 void mdiMain::openDialog() {
-  const QString path = QFileDialog::getOpenFileName(this, text(9004), QDir::currentPath(), kProjectFilter);
+  const QString path = QFileDialog::getOpenFileName(this, text(9004), QDir::currentPath(),
+                                                    ProjectFilter(program_.strings));
   if (!path.isEmpty()) openProject(path);
 }
 

@@ -44,7 +44,7 @@ DispersalPage::DispersalPage(const PageContext& context, QWidget* parent) : Inpu
   SSCommand1 = button("SSCommand1", 319, 304);
   SSCommand2 = button("SSCommand2", 320, 303);
   chooseFile = [this](bool save) {
-    const QString filter = "TXT Files (*.txt)";
+    const QString filter = QString::fromStdString(context_.strings.text(326)) + " (*.txt)";
     return save ? QFileDialog::getSaveFileName(this, {}, "RateMatrix.txt", filter)
                 : QFileDialog::getOpenFileName(this, {}, "RateMatrix.txt", filter);
   };
