@@ -72,6 +72,19 @@ const std::map<int, std::string>& Table() {
       {9169, "Scenario names cannot contain characters ( \\ / * or ?) that are not valid within filenames."},
       {9170, "Each scenario must have a unique name!"},
       {9171, "Cannot delete an ST scenario. Go to ST form to edit ST structure."},
+      {9172, "The rate matrix could not be written to "},
+      {9173, "The rate matrix could not be read from "},
+      {9174, "The rate matrix file has "},
+      {9175, " lines, but the matrix has "},
+      {9176, " populations: one line per source population is needed."},
+      {9177, "Line "},
+      {9178, " of the rate matrix file has "},
+      {9179, " values, but the matrix has "},
+      {9180, " populations."},
+      {9181, "These "},
+      {9182, " variables would make "},
+      {9183, " Individual State variables; at most "},
+      {9184, " are possible."},
   };
   return table;
 }

@@ -89,6 +89,21 @@ inline constexpr int kBreedToKWithFunctions = 9168;
 inline constexpr int kNameCharacters = 9169;
 inline constexpr int kNameNotUnique = 9170;
 inline constexpr int kCannotDeleteST = 9171;
+// The rate matrix's file, and the state variable presets: pieces joined with a
+// file name, a reason or numbers.
+inline constexpr int kRateMatrixNotWritten = 9172;
+inline constexpr int kRateMatrixNotRead = 9173;
+inline constexpr int kRateFileHasLines = 9174;
+inline constexpr int kRateFileLinesButMatrix = 9175;
+inline constexpr int kRateFileLinesNeeded = 9176;
+inline constexpr int kRateFileLine = 9177;
+inline constexpr int kRateFileLineHas = 9178;
+inline constexpr int kRateFileValuesButMatrix = 9179;
+inline constexpr int kRateFilePopulations = 9180;
+inline constexpr int kPresetThese = 9181;
+inline constexpr int kPresetWouldMake = 9182;
+inline constexpr int kPresetAtMost = 9183;
+inline constexpr int kPresetArePossible = 9184;
 }  // namespace msg
 
 }  // namespace tamsic
