@@ -2,6 +2,8 @@
 
 #include <map>
 
+#include "model/InputRules.h"
+
 namespace tamsic {
 
 namespace {
@@ -56,6 +58,37 @@ const std::map<int, std::string>& Table() {
       {9147, "Device Unavailable"},
       {9148, "Please select a folder:"},
       {9149, "Your note has not been saved. Do you want to save it now?"},
+      {9150, "Yes"},
+      {9151, "No"},
+      {9161, "Value should be a percent (< 100), but appears to be entered as a proportion (< 1). Is this correct?"},
+      {9162, "Age of reproduction must be a integer value!"},
+      {9163, "Maximum age must be a integer value!"},
+      {9164, "Maximum number of broods must be a integer value!"},
+      {9165, "Maximum number of progeny must be a integer value!"},
+      {9166, "Caution!"},
+      {9167, "Stable age distribution may not be accurate because a function was used for a demographic rate."},
+      {9168, "Tamsic may not be able to calculate how many pairs to breed, because a function is used for a "
+             "demographic rate."},
+      {9169, "Scenario names cannot contain characters ( \\ / * or ?) that are not valid within filenames."},
+      {9170, "Each scenario must have a unique name!"},
+      {9171, "Cannot delete an ST scenario. Go to ST form to edit ST structure."},
+      {9172, "The rate matrix could not be written to "},
+      {9173, "The rate matrix could not be read from "},
+      {9174, "The rate matrix file has "},
+      {9175, " lines, but the matrix has "},
+      {9176, " populations: one line per source population is needed."},
+      {9177, "Line "},
+      {9178, " of the rate matrix file has "},
+      {9179, " values, but the matrix has "},
+      {9180, " populations."},
+      {9181, "These "},
+      {9182, " variables would make "},
+      {9183, " Individual State variables; at most "},
+      {9184, " are possible."},
+      {9185, "Would you like to save your project before closing it?"},
+      {9186, "These pasted values were refused and not stored:"},
+      {9187, "These pasted values were stored; please check them:"},
+      {9188, "Cells not listed here: "},
   };
   return table;
 }
@@ -65,7 +98,7 @@ const std::map<int, std::string>& Table() {
 std::string EnglishMessages::text(int number) const {
   const auto& table = Table();
   const auto it = table.find(number);
-  return it == table.end() ? std::string() : it->second;
+  return it == table.end() ? EnglishInputWords().text(number) : it->second;
 }
 
 }  // namespace tamsic

@@ -27,7 +27,7 @@ inline constexpr D kPopLabelsDefaults[] = {"Population 1"};
 inline constexpr GridDescription kPopLabels{GridShape::PopulationLabels, Lines::Counted, Count::PopStateVars, Sex::Female,
                                             1, kPopLabelsLines, kPopLabelsDefaults, "PS"};
 
-inline constexpr L kGlobalVarsLines[] = {{"Function", 0, 234, AnyText()}};
+inline constexpr L kGlobalVarsLines[] = {{"Function", 252, 234, AnyText()}};
 inline constexpr GridDescription kGlobalVars{GridShape::StateVariables, Lines::Fixed, Count::GlobalVars, Sex::Female,
                                              1, kGlobalVarsLines, {}, "GS"};
 
@@ -74,7 +74,7 @@ inline constexpr D kBroodsDefaults[] = {"100.00"};
 inline constexpr GridDescription kBroods{GridShape::Distribution, Lines::Counted, Count::MaxLitters, Sex::Female, 1,
                                          kBroodsLines, kBroodsDefaults};
 
-// Headings are made from the ages; see MortalityHeading.
+// Headings are made from the ages; see MadeHeading.
 inline constexpr L kMortalityLines[] = {{"", 0, 604, RateIn(0, 100)}, {"", 0, 606, RateIn(0, 100)}};
 inline constexpr D kMortFemalesDefaults[] = {"25", "6", "15", "4", "10", "3"};
 inline constexpr D kMortMalesDefaults[] = {"25", "6", "18", "4", "18", "4", "12", "3"};

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "model/HeadingWords.h"
 #include "model/InputRules.h"
 
 namespace tamsic {
@@ -40,12 +41,11 @@ Grid StateVariables(int count, const std::string& prefix, const Headings& rows) 
 Headings MortalityColumns(int firstOffspringAge) {
   Headings columns;
   for (int i = 0; i < firstOffspringAge; ++i) {
-    const std::string span = std::to_string(i) + " to " + std::to_string(i + 1);
-    columns.push_back("Mortality From Age " + span);
-    columns.push_back("SD in " + span + " Mortality Due to EV");
+    columns.push_back(MakeHeading(MadeHeading::MortalityFrom, i));
+    columns.push_back(MakeHeading(MadeHeading::MortalitySd, i));
   }
-  columns.push_back("Annual Mortality After Age " + std::to_string(firstOffspringAge));
-  columns.push_back("SD in Mortality After Age " + std::to_string(firstOffspringAge));
+  columns.push_back(MakeHeading(MadeHeading::MortalityAfter, firstOffspringAge));
+  columns.push_back(MakeHeading(MadeHeading::MortalitySdAfter, firstOffspringAge));
   return columns;
 }
 
@@ -60,7 +60,7 @@ Headings AgeColumns(const std::string& prefix, int maxAge) {
 Headings AgeClassColumns(int firstOffspringAge) {
   Headings columns;
   for (int age = 1; age < firstOffspringAge; ++age) columns.push_back("Age " + std::to_string(age));
-  columns.push_back("Adults");
+  columns.push_back(MakeHeading(MadeHeading::Adults));
   return columns;
 }
 
@@ -183,19 +183,6 @@ Grid DefaultGrid(Field grid, const LayoutCounts& counts) {
     }
   }
   return fresh;
-}
-
-std::vector<HeadingCaption> HeadingCaptions() {
-  std::vector<HeadingCaption> captions;
-  for (std::size_t i = 0; i < kFieldCount; ++i) {
-    const GridDescription* d = Describe(Field{i}).input.grid;
-    if (!d) continue;
-    const bool numbered = d->lines != Lines::Fixed && d->shape != GridShape::Distribution &&
-                          d->shape != GridShape::PopulationLabels;
-    for (const GridLine& line : d->line)
-      if (line.caption) captions.push_back({line.heading, line.caption, numbered});
-  }
-  return captions;
 }
 
 }  // namespace tamsic

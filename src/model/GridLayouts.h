@@ -35,16 +35,6 @@ bool PopulationsInColumns(Field grid);
 // The grid of a new scenario: LayoutGrid with the description's values in it.
 Grid DefaultGrid(Field grid, const LayoutCounts& counts);
 
-// A heading of the grid layouts with the message number of its caption;
-// numbered headings are followed by a blank and a number ("Frequency % 2").
-struct HeadingCaption {
-  std::string_view heading;
-  int caption;
-  bool numbered;
-};
-// Every heading of every grid that has a caption of its own.
-std::vector<HeadingCaption> HeadingCaptions();
-
 // Gives the grid the shape and headings of LayoutGrid, keeping the values of
 // the cells that lie in both the old and the new shape.
 Grid Relayout(const Grid& old, Field grid, const LayoutCounts& counts);

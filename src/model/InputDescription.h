@@ -115,6 +115,9 @@ constexpr InputDescription TextInput(ValueRule rule, std::string_view byDefault,
 constexpr InputDescription ChoiceInput(std::string_view byDefault, int caption, int hint) {
   return {AnyText(), byDefault, caption, hint, nullptr};
 }
-constexpr InputDescription GridInput(const GridDescription& grid, int hint) { return {AnyText(), {}, 0, hint, &grid}; }
+// A grid's caption is the title the page shows over it; messages name the grid by it.
+constexpr InputDescription GridInput(const GridDescription& grid, int hint, int caption) {
+  return {AnyText(), {}, caption, hint, &grid};
+}
 
 }  // namespace tamsic

@@ -74,17 +74,38 @@ std::optional<Fault> CheckValue(const ValueRule& rule, std::string_view text) {
   return std::nullopt;
 }
 
-std::string FaultWording(Fault fault, const ValueRule& rule) {
+const IStringTable& EnglishInputWords() {
+  static const class : public IStringTable {
+   public:
+    std::string text(int number) const override {
+      switch (number) {
+        case msg::kMustBeNumber: return "the value must be a number";
+        case msg::kMustBeNumberOrFunction:
+          return "the value must be a number, a function (=...) or a file reference (file=...)";
+        case msg::kMustBeWhole: return "the value must be a whole number";
+        case msg::kMustBeAtLeast: return "the value must be at least ";
+        case msg::kMustBeAtMost: return "the value must be at most ";
+        case msg::kMustBeSwitch: return "the value must be 0 or 1";
+        case msg::kMustBePlace: return "the value must be Local or Global";
+        case msg::kRow: return "row ";
+        case msg::kColumn: return "column ";
+        default: return {};
+      }
+    }
+  } english;
+  return english;
+}
+
+std::string FaultWording(Fault fault, const ValueRule& rule, const IStringTable& words) {
   switch (fault) {
     case Fault::NotANumber:
-      return rule.kind == ValueKind::Rate || rule.kind == ValueKind::WholeRate
-                 ? "the value must be a number, a function (=...) or a file reference (file=...)"
-                 : "the value must be a number";
-    case Fault::NotWhole: return "the value must be a whole number";
-    case Fault::BelowLow: return "the value must be at least " + NumberToText(rule.low);
-    case Fault::AboveHigh: return "the value must be at most " + NumberToText(rule.high);
-    case Fault::NotASwitch: return "the value must be 0 or 1";
-    case Fault::NotAPlace: return "the value must be Local or Global";
+      return words.text(rule.kind == ValueKind::Rate || rule.kind == ValueKind::WholeRate ? msg::kMustBeNumberOrFunction
+                                                                                          : msg::kMustBeNumber);
+    case Fault::NotWhole: return words.text(msg::kMustBeWhole);
+    case Fault::BelowLow: return words.text(msg::kMustBeAtLeast) + NumberToText(rule.low);
+    case Fault::AboveHigh: return words.text(msg::kMustBeAtMost) + NumberToText(rule.high);
+    case Fault::NotASwitch: return words.text(msg::kMustBeSwitch);
+    case Fault::NotAPlace: return words.text(msg::kMustBePlace);
   }
   return {};
 }
@@ -124,12 +145,14 @@ std::string InputPlace::Text() const {
   return text;
 }
 
-InputPlace CellPlace(Field grid, const Grid& table, std::size_t row, std::size_t col) {
+InputPlace CellPlace(Field grid, const Grid& table, std::size_t row, std::size_t col, const PlaceWording& wording) {
   const std::string rowName = row > 0 ? Heading(table, row, 0) : std::string();
   const std::string colName = Heading(table, 0, col);
-  const std::string rowText = Blank(rowName) ? "row " + std::to_string(row) : rowName;
-  const std::string colText = Blank(colName) ? "column " + std::to_string(col) : colName;
-  InputPlace place{std::string(Describe(grid).key), {}, {}};
+  const std::string rowText =
+      Blank(rowName) ? wording.words.text(msg::kRow) + std::to_string(row) : wording.heading(rowName);
+  const std::string colText =
+      Blank(colName) ? wording.words.text(msg::kColumn) + std::to_string(col) : wording.heading(colName);
+  InputPlace place{wording.input, {}, {}};
   switch (GridOf(grid).shape) {
     case GridShape::PopulationLabels:
     case GridShape::PopulationRows:
@@ -138,6 +161,12 @@ InputPlace CellPlace(Field grid, const Grid& table, std::size_t row, std::size_t
     default: place.line = rowText + ", " + colText; break;
   }
   return place;
+}
+
+InputPlace CellPlace(Field grid, const Grid& table, std::size_t row, std::size_t col) {
+  const PlaceWording stored{std::string(Describe(grid).key), [](const std::string& heading) { return heading; },
+                            EnglishInputWords()};
+  return CellPlace(grid, table, row, col, stored);
 }
 
 std::optional<InputFault> FirstFault(const clsScenario& scenario) {

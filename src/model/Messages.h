@@ -38,6 +38,7 @@ class Messages {
   Messages(IMessageBox& box, const IStringTable& strings) : box_(box), strings_(strings) {}
 
   std::string text(int number) const { return strings_.text(number); }
+  const IStringTable& strings() const { return strings_; }
   MsgAnswer show(const MessageBoxRequest& request) { return box_.show(request); }
   MsgAnswer show(std::string text, int captionNumber, MsgIcon icon,
                  MsgButtons buttons = MsgButtons::Ok) {
@@ -68,10 +69,47 @@ inline constexpr int kProjectDoesNotExist = 9139;
 inline constexpr int kProblemWithData = 9143;
 inline constexpr int kModifiedManually = 9144;
 inline constexpr int kUnableToFindSection = 9145;
-inline constexpr int kSaveBeforeClosing = 9152;
-inline constexpr int kPasteRefused = 9160;
-inline constexpr int kPasteRemarks = 9161;
-inline constexpr int kPasteUnlisted = 9162;
+// What is wrong with a value and where it is; the engine's English is built into EnglishInputWords.
+inline constexpr int kMustBeNumber = 9152;
+inline constexpr int kMustBeNumberOrFunction = 9153;
+inline constexpr int kMustBeWhole = 9154;
+inline constexpr int kMustBeAtLeast = 9155;
+inline constexpr int kMustBeAtMost = 9156;
+inline constexpr int kMustBeSwitch = 9157;
+inline constexpr int kMustBePlace = 9158;
+inline constexpr int kRow = 9159;
+inline constexpr int kColumn = 9160;
+inline constexpr int kPercentOrProportion = 9161;
+inline constexpr int kWholeAgeOfReproduction = 9162;
+inline constexpr int kWholeMaximumAge = 9163;
+inline constexpr int kWholeBroods = 9164;
+inline constexpr int kWholeProgeny = 9165;
+inline constexpr int kCaution = 9166;
+inline constexpr int kStableAgesWithFunctions = 9167;
+inline constexpr int kBreedToKWithFunctions = 9168;
+inline constexpr int kNameCharacters = 9169;
+inline constexpr int kNameNotUnique = 9170;
+inline constexpr int kCannotDeleteST = 9171;
+// The rate matrix's file, and the state variable presets: pieces joined with a
+// file name, a reason or numbers.
+inline constexpr int kRateMatrixNotWritten = 9172;
+inline constexpr int kRateMatrixNotRead = 9173;
+inline constexpr int kRateFileHasLines = 9174;
+inline constexpr int kRateFileLinesButMatrix = 9175;
+inline constexpr int kRateFileLinesNeeded = 9176;
+inline constexpr int kRateFileLine = 9177;
+inline constexpr int kRateFileLineHas = 9178;
+inline constexpr int kRateFileValuesButMatrix = 9179;
+inline constexpr int kRateFilePopulations = 9180;
+inline constexpr int kPresetThese = 9181;
+inline constexpr int kPresetWouldMake = 9182;
+inline constexpr int kPresetAtMost = 9183;
+inline constexpr int kPresetArePossible = 9184;
+// Closing one project, and the message after a paste into a grid.
+inline constexpr int kSaveBeforeClosing = 9185;
+inline constexpr int kPasteRefused = 9186;
+inline constexpr int kPasteRemarks = 9187;
+inline constexpr int kPasteUnlisted = 9188;
 }  // namespace msg
 
 }  // namespace tamsic

@@ -44,8 +44,7 @@ std::size_t ProposedTemplate(const ScenarioCollection& scenarios, std::size_t cu
 std::optional<std::size_t> DeleteScenario(ScenarioCollection& scenarios, std::size_t current,
                                           Messages& messages) {
   if (IsSTScenario(scenarios.Item(current))) {
-    messages.show({"Cannot delete an ST scenario. Go to ST form to edit ST structure.", "",
-                   MsgIcon::Exclamation, MsgButtons::Ok});
+    messages.show({messages.text(msg::kCannotDeleteST), "", MsgIcon::Exclamation, MsgButtons::Ok});
     return std::nullopt;
   }
   const MsgAnswer answer = messages.show(messages.text(msg::kConfirmDeleteScenario), msg::kConfirmation,
@@ -56,13 +55,11 @@ std::optional<std::size_t> DeleteScenario(ScenarioCollection& scenarios, std::si
   return std::min(current, scenarios.Count());
 }
 
-std::optional<std::string> ScenarioNameProblem(const ScenarioCollection& scenarios, std::size_t number,
-                                               std::string_view name) {
-  if (name.find_first_of("*?\\/") != std::string_view::npos)
-    return "Scenario names cannot contain characters ( \\ / * or ?) that are not valid within filenames.";
+std::optional<int> ScenarioNameProblem(const ScenarioCollection& scenarios, std::size_t number,
+                                       std::string_view name) {
+  if (name.find_first_of("*?\\/") != std::string_view::npos) return msg::kNameCharacters;
   for (std::size_t n = 1; n <= scenarios.Count(); ++n)
-    if (n != number && SameIgnoringCase(NameOf(scenarios.Item(n)), name))
-      return "Each scenario must have a unique name!";
+    if (n != number && SameIgnoringCase(NameOf(scenarios.Item(n)), name)) return msg::kNameNotUnique;
   return std::nullopt;
 }
 

@@ -28,9 +28,9 @@ std::size_t ProposedTemplate(const ScenarioCollection& scenarios, std::size_t cu
 std::optional<std::size_t> DeleteScenario(ScenarioCollection& scenarios, std::size_t current,
                                           Messages& messages);
 
-// The message that refuses a name for scenario `number`, or nothing when the name is fine.
-std::optional<std::string> ScenarioNameProblem(const ScenarioCollection& scenarios, std::size_t number,
-                                               std::string_view name);
+// The number of the message that refuses a name for scenario `number`, or nothing when the name is fine.
+std::optional<int> ScenarioNameProblem(const ScenarioCollection& scenarios, std::size_t number,
+                                       std::string_view name);
 
 // Swaps scenario `number` with its neighbour; answers the scenario's new number.
 std::size_t MoveScenarioUp(ScenarioCollection& scenarios, std::size_t number);

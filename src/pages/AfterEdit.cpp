@@ -90,12 +90,9 @@ bool AnyInputIsFunction(const clsScenario& scenario) {
 void WarnAboutRateFunctions(const clsScenario& before, const clsScenario& after, Messages& messages) {
   if (!AnyRateIsFunction(after)) return;
   if (after.Truth(F("optStartWith_0")) && !before.Truth(F("optStartWith_0")))
-    messages.show({"Stable age distribution may not be accurate because a function was used for a demographic rate.",
-                   "Caution!", MsgIcon::None, MsgButtons::Ok});
+    messages.show(messages.text(msg::kStableAgesWithFunctions), msg::kCaution, MsgIcon::None);
   if (NewlyOn(before, after, F("chkGenMgtBreedToMaintinK")))
-    messages.show("Tamsic may not be able to calculate how many pairs to breed, because a function is used for a "
-                  "demographic rate.",
-                  msg::kWarning, MsgIcon::None);
+    messages.show(messages.text(msg::kBreedToKWithFunctions), msg::kWarning, MsgIcon::None);
 }
 
 }  // namespace tamsic

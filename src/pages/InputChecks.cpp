@@ -4,7 +4,9 @@
 #include <cstdio>
 
 #include "engine/EngineLibrary.h"
+#include "files/TextCodec.h"
 #include "model/CellValue.h"
+#include "model/HeadingWords.h"
 #include "model/TextNumbers.h"
 #include "model/TextSplit.h"
 
@@ -47,9 +49,20 @@ bool FormulaRefused(std::string_view text, Messages& messages, Engine& engine) {
 void QuestionProportion(std::string_view text, const ValueRule& rule, Messages& messages) {
   const auto value = ExactNumber(text);
   if (rule.high == 100 && value && *value > 0 && *value < 1)
-    messages.show("Value should be a percent (< 100), but appears to be entered as a proportion (< 1). "
-                  "Is this correct?",
-                  msg::kWarning, MsgIcon::None, MsgButtons::Ok);
+    messages.show(messages.text(msg::kPercentOrProportion), msg::kWarning, MsgIcon::None, MsgButtons::Ok);
+}
+
+// Where a cell is, as its page shows it: the grid's caption, the population's
+// label and the line's heading, in the user's language.
+InputPlace ShownPlace(Field grid, const Grid& table, std::size_t row, std::size_t col, const IStringTable& words) {
+  const int caption = Describe(grid).input.caption;
+  const std::string name = caption ? words.text(caption) : std::string();
+  const PlaceWording shown{name.empty() ? std::string(Describe(grid).key) : name,
+                           [&words](const std::string& heading) {
+                             return ShownHeading(heading, words).value_or(Cp1252ToUtf8(heading));
+                           },
+                           words};
+  return CellPlace(grid, table, row, col, shown);
 }
 
 }  // namespace
@@ -58,7 +71,8 @@ bool TestCell(std::string_view text, const ValueRule& rule, const InputPlace& pl
   ValueRule number = rule;
   if (TakesFunctions(rule)) number.kind = rule.kind == ValueKind::WholeRate ? ValueKind::Whole : ValueKind::Number;
   if (const auto fault = CheckValue(number, text)) {
-    Refuse(messages.text(msg::kInvalidInput) + "\r\n\r\n" + InputFault{place, *fault, rule}.Text(), messages);
+    Refuse(messages.text(msg::kInvalidInput) + "\r\n\r\n" + InputFault{place, *fault, rule}.Text(messages.strings()),
+           messages);
     return true;
   }
   QuestionProportion(text, rule, messages);
@@ -78,7 +92,7 @@ bool TestGridCell(Field grid, const Grid& table, std::size_t row, std::size_t co
                   Messages& messages, Engine& engine) {
   const ValueRule rule = CellRule(grid, row, col);
   if (rule.kind == ValueKind::Text) return false;
-  const InputPlace place = CellPlace(grid, table, row, col);
+  const InputPlace place = ShownPlace(grid, table, row, col, messages.strings());
   return TakesFunctions(rule) ? TestCellFunctions(text, rule, place, messages, engine)
                               : TestCell(text, rule, place, messages);
 }
@@ -91,19 +105,20 @@ bool TestTextBoxFunctions(Field box, std::string_view text, const std::string& c
   const auto fault = CheckValue(rule, text);
   if (!fault) return false;
   if (const auto problem = WholeNumberProblem(box, text); problem && *fault == Fault::NotWhole)
-    messages.show({*problem, "", MsgIcon::None, MsgButtons::Ok});
+    messages.show({messages.text(*problem), "", MsgIcon::None, MsgButtons::Ok});
   else
-    messages.show(InputFault{{caption, {}, {}}, *fault, rule}.Text() + ".", msg::kWarning, MsgIcon::Exclamation);
+    messages.show(InputFault{{caption, {}, {}}, *fault, rule}.Text(messages.strings()) + ".", msg::kWarning,
+                  MsgIcon::Exclamation);
   return true;
 }
 
-std::optional<std::string> WholeNumberProblem(Field box, std::string_view text) {
+std::optional<int> WholeNumberProblem(Field box, std::string_view text) {
   const auto value = ExactNumber(text);
   if (!value || std::trunc(*value) == *value) return std::nullopt;
-  if (box == F("txtAgeReproF") || box == F("txtAgeReproM")) return "Age of reproduction must be a integer value!";
-  if (box == F("txtMaxAgeRepro")) return "Maximum age must be a integer value!";
-  if (box == F("txtMaxLitters")) return "Maximum number of broods must be a integer value!";
-  if (box == F("txtMaxProgeny")) return "Maximum number of progeny must be a integer value!";
+  if (box == F("txtAgeReproF") || box == F("txtAgeReproM")) return msg::kWholeAgeOfReproduction;
+  if (box == F("txtMaxAgeRepro")) return msg::kWholeMaximumAge;
+  if (box == F("txtMaxLitters")) return msg::kWholeBroods;
+  if (box == F("txtMaxProgeny")) return msg::kWholeProgeny;
   return std::nullopt;
 }
 

@@ -18,8 +18,9 @@
 namespace tamsic {
 
 // A grid cell that must hold a number: an empty cell passes; a number outside
-// the rule is refused with "Invalid input" and the cause. A number between 0
-// and 1 where a percent up to 100 is expected is questioned, and passes.
+// the rule is refused with "Invalid input", the place and the cause, all in the
+// language of the messages. A number between 0 and 1 where a percent up to 100
+// is expected is questioned, and passes.
 bool TestCell(std::string_view text, const ValueRule& rule, const InputPlace& place, Messages& messages);
 // Functions go to the engine's formula test; file references pass as they are.
 bool TestCellFunctions(std::string_view text, const ValueRule& rule, const InputPlace& place, Messages& messages,
@@ -32,9 +33,9 @@ bool TestGridCell(Field grid, const Grid& table, std::size_t row, std::size_t co
 bool TestTextBoxFunctions(Field box, std::string_view text, const std::string& caption, Messages& messages,
                           Engine& engine);
 
-// The message refusing a text box that must hold a whole number
-// (ages of reproduction, maximum age, broods, progeny), or nothing.
-std::optional<std::string> WholeNumberProblem(Field box, std::string_view text);
+// The number of the message refusing a text box that must hold a whole
+// number (ages of reproduction, maximum age, broods, progeny), or nothing.
+std::optional<int> WholeNumberProblem(Field box, std::string_view text);
 
 // Refuses an upper dispersal age below the lower one (equal is fine).
 bool TestDispersalAges(std::string_view young, std::string_view old, Messages& messages);

@@ -69,19 +69,21 @@ std::string ExportRateMatrix(const Grid& rates) {
   return text;
 }
 
-std::optional<std::string> ImportRateMatrix(Grid& rates, std::string_view file) {
+std::optional<std::string> ImportRateMatrix(Grid& rates, std::string_view file, const IStringTable& words) {
   std::vector<std::string_view> lines = Split(file, '\n');
   while (!lines.empty() && Trim(lines.back()).empty()) lines.pop_back();
   const std::size_t populations = rates.rows() > 0 ? rates.rows() - 1 : 0;
   if (lines.size() != populations)
-    return "The rate matrix file has " + std::to_string(lines.size()) + " lines, but the matrix has " +
-           std::to_string(populations) + " populations: one line per source population is needed.";
+    return words.text(msg::kRateFileHasLines) + std::to_string(lines.size()) +
+           words.text(msg::kRateFileLinesButMatrix) + std::to_string(populations) +
+           words.text(msg::kRateFileLinesNeeded);
   Grid imported = rates;
   for (std::size_t r = 0; r < lines.size(); ++r) {
     const auto fields = Split(Trim(lines[r]), ';');
     if (fields.size() != populations)
-      return "Line " + std::to_string(r + 1) + " of the rate matrix file has " + std::to_string(fields.size()) +
-             " values, but the matrix has " + std::to_string(populations) + " populations.";
+      return words.text(msg::kRateFileLine) + std::to_string(r + 1) + words.text(msg::kRateFileLineHas) +
+             std::to_string(fields.size()) + words.text(msg::kRateFileValuesButMatrix) + std::to_string(populations) +
+             words.text(msg::kRateFilePopulations);
     for (std::size_t c = 0; c < fields.size(); ++c) imported.at(r + 1, c + 1) = std::string(Trim(fields[c]));
   }
   rates = std::move(imported);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "model/Grid.h"
+#include "model/Messages.h"
 #include "model/clsScenario.h"
 
 namespace tamsic {
@@ -27,8 +28,8 @@ std::string ExportRateMatrix(const Grid& rates);
 
 // Reads what ExportRateMatrix writes into the matrix. A file whose numbers of
 // lines or fields do not fit the matrix changes nothing; the answer is then
-// the message that says what does not fit.
-std::optional<std::string> ImportRateMatrix(Grid& rates, std::string_view file);
+// the message that says what does not fit, in the words of the table.
+std::optional<std::string> ImportRateMatrix(Grid& rates, std::string_view file, const IStringTable& words);
 
 // Copies every female mortality cell that has a place in the male grid.
 void CopyFemaleMortality(clsScenario& scenario);

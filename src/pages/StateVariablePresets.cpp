@@ -27,13 +27,14 @@ std::vector<Variable> VariablesOf(StatePreset preset) {
 
 }  // namespace
 
-std::optional<std::string> AddStateVariables(clsScenario& scenario, StatePreset preset) {
+std::optional<std::string> AddStateVariables(clsScenario& scenario, StatePreset preset, const IStringTable& words) {
   const std::vector<Variable> added = VariablesOf(preset);
   const int before = std::max(LeadingInt(scenario.Text(F("txtNumIndividualStateParams"))), 0);
   const int after = before + static_cast<int>(added.size());
   if (after > kMaxStateVars)
-    return "These " + std::to_string(added.size()) + " variables would make " + std::to_string(after) +
-           " Individual State variables; at most " + std::to_string(kMaxStateVars) + " are possible.";
+    return words.text(msg::kPresetThese) + std::to_string(added.size()) + words.text(msg::kPresetWouldMake) +
+           std::to_string(after) + words.text(msg::kPresetAtMost) + std::to_string(kMaxStateVars) +
+           words.text(msg::kPresetArePossible);
   scenario.SetText(F("txtNumIndividualStateParams"), std::to_string(after));
   const Field field = F("gridIndividualStateParams");
   Grid grid = Relayout(scenario.GetGrid(field), field, CountsOf(scenario));

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "model/Messages.h"
 #include "model/clsScenario.h"
 
 namespace tamsic {
@@ -14,7 +15,7 @@ enum class StatePreset { Outbreak, Spatial };
 
 // Raises the count, re-shapes the grid and fills the new columns. A preset
 // that would take the count past 10 changes nothing; the answer is then the
-// message that says so.
-std::optional<std::string> AddStateVariables(clsScenario& scenario, StatePreset preset);
+// message that says so, in the words of the table.
+std::optional<std::string> AddStateVariables(clsScenario& scenario, StatePreset preset, const IStringTable& words);
 
 }  // namespace tamsic

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "app/EnglishMessages.h"
 #include "model/NewScenario.h"
 #include "model/ScenarioShape.h"
 #include "pages/AfterEdit.h"
@@ -159,7 +160,7 @@ TEST(StateVariablePresets, NewVariablesTakeTheHighestNumbers) {
   s.SetText(F("txtNumIndividualStateParams"), "2");
   RelayoutScenario(s);
   SetCell(s, F("gridIndividualStateParams"), 1, 1, "Weight");
-  ASSERT_EQ(AddStateVariables(s, StatePreset::Outbreak), std::nullopt);
+  ASSERT_EQ(AddStateVariables(s, StatePreset::Outbreak, EnglishMessages()), std::nullopt);
   EXPECT_EQ(s.Text(F("txtNumIndividualStateParams")), "6");
   const Grid& grid = s.GetGrid(F("gridIndividualStateParams"));
   ASSERT_EQ(grid.cols(), 7u);
@@ -174,9 +175,10 @@ TEST(StateVariablePresets, RefusesToPassTen) {
   s.SetText(F("txtNumIndividualStateParams"), "7");
   RelayoutScenario(s);
   const clsScenario unchanged = s;
-  EXPECT_NE(AddStateVariables(s, StatePreset::Outbreak), std::nullopt);
+  EXPECT_NE(AddStateVariables(s, StatePreset::Outbreak, EnglishMessages()), std::nullopt);
   EXPECT_EQ(s, unchanged);
-  EXPECT_EQ(AddStateVariables(s, StatePreset::Spatial), std::nullopt) << "7 + 3 is exactly the maximum";
+  EXPECT_EQ(AddStateVariables(s, StatePreset::Spatial, EnglishMessages()), std::nullopt)
+      << "7 + 3 is exactly the maximum";
 }
 
 TEST(NewScenario, EveryGridHasTheShapeOfItsCounts) {

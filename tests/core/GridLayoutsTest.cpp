@@ -1,7 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
+
 #include "model/GridLayouts.h"
+#include "model/HeadingWords.h"
 #include "model/InputRules.h"
+#include "model/TextNumbers.h"
 
 namespace tamsic {
 namespace {
@@ -85,7 +90,47 @@ TEST(GridLayouts, EveryCellIsHeadedByTheLineItsRuleComesFrom) {
       }
   }
   EXPECT_GT(cells, 200);
-  for (const HeadingCaption& caption : HeadingCaptions()) EXPECT_GT(caption.caption, 0) << caption.heading;
+}
+
+// Whatever the grid and its counts, no heading a layout makes reaches the
+// user in English: each one is shown in the words of the string table.
+TEST(GridLayouts, EveryHeadingIsShownInTheUsersLanguage) {
+  struct Numbers : IStringTable {
+    std::string text(int number) const override { return "<" + std::to_string(number) + ">"; }
+  } numbers;
+  LayoutCounts counts = ThreePopulations();
+  counts.globalVars = 2;
+  counts.indivStateVars = 2;
+  // Names, numbers and the symbols that functions use (PS1, GS2, IS1, %) read alike in every language.
+  const auto alike = [&counts](const std::string& heading) {
+    const bool symbol = heading.size() > 2 && std::isupper(heading[0]) && std::isupper(heading[1]) &&
+                        heading.find_first_not_of("0123456789", 2) == std::string::npos;
+    return heading.empty() || heading == "%" || symbol || ExactNumber(heading) ||
+           std::find(counts.populations.begin(), counts.populations.end(), heading) != counts.populations.end();
+  };
+  int shown = 0;
+  for (std::size_t i = 0; i < kFieldCount; ++i) {
+    const Field field{i};
+    if (Describe(field).kind != FieldKind::Grid || field == F("Notes")) continue;
+    const Grid grid = LayoutGrid(field, counts);
+    std::vector<std::string> headings;
+    for (std::size_t r = 0; r < grid.rows(); ++r) headings.push_back(grid.at(r, 0));
+    if (GridOf(field).shape != GridShape::CatastropheLabels)
+      for (std::size_t c = 1; c < grid.cols(); ++c) headings.push_back(grid.at(0, c));
+    for (const std::string& heading : headings) {
+      if (alike(heading)) continue;
+      const auto words = ShownHeading(heading, numbers);
+      ASSERT_TRUE(words) << Describe(field).member << ": \"" << heading << "\" has no caption";
+      EXPECT_TRUE(std::none_of(words->begin(), words->end(), [](char c) { return std::isalpha(c); }))
+          << Describe(field).member << ": \"" << heading << "\" shows as \"" << *words << '"';
+      ++shown;
+    }
+  }
+  EXPECT_GT(shown, 80);
+  EXPECT_EQ(ShownHeading("Mortality From Age 2 to 3", numbers), "<608>2<609>3");
+  EXPECT_EQ(ShownHeading("Frequency % 2", numbers), "<710> 2");
+  EXPECT_EQ(ShownHeading("Frequency %", numbers), std::nullopt) << "a numbered heading without its number";
+  EXPECT_EQ(ShownHeading("SD in Mortality After Age 2x", numbers), std::nullopt);
 }
 
 TEST(GridLayouts, RelayoutKeepsValuesThatStillFit) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "app/StringTable.h"
 #include "model/GridLayouts.h"
 #include "model/NewScenario.h"
 #include "pages/InputChecks.h"
@@ -80,8 +81,8 @@ TEST_F(InputChecksTest, TextBoxes) {
   EXPECT_FALSE(Box("txtEV", "-0.5")) << "populations may be negatively correlated";
   EXPECT_FALSE(Box("txtSceneName", "anything at all"));
 
-  EXPECT_EQ(WholeNumberProblem(F("txtAgeReproF"), "2.5"), "Age of reproduction must be a integer value!");
-  EXPECT_EQ(WholeNumberProblem(F("txtMaxLitters"), "1.5"), "Maximum number of broods must be a integer value!");
+  EXPECT_EQ(WholeNumberProblem(F("txtAgeReproF"), "2.5"), msg::kWholeAgeOfReproduction);
+  EXPECT_EQ(WholeNumberProblem(F("txtMaxLitters"), "1.5"), msg::kWholeBroods);
   EXPECT_EQ(WholeNumberProblem(F("txtMaxAgeRepro"), "12"), std::nullopt);
 
   shown().clear();
@@ -89,6 +90,24 @@ TEST_F(InputChecksTest, TextBoxes) {
   EXPECT_TRUE(TestDispersalAges("3", "2", recorder.messages));
   ASSERT_EQ(shown().size(), 1u);
   EXPECT_EQ(shown()[0].text, "The lower age for dispersal must be less than the upper age for dispersal");
+}
+
+// A page words a refused value wholly in the user's language: the grid's
+// caption, the heading and the cause; the population's label is the user's own.
+TEST_F(InputChecksTest, RefusalsAreWordedInTheUsersLanguage) {
+  StringTable german = StringTable::fromFile(StringTable::locate());
+  german.setLanguage(Language::German);
+  Messages messages{recorder.box, german};
+  const Field mortality = F("gridMortFemales");
+  EXPECT_TRUE(TestGridCell(mortality, scenario.GetGrid(mortality), 1, 3, "500", messages, engine));
+  EXPECT_FALSE(TestGridCell(mortality, scenario.GetGrid(mortality), 1, 1, "0.5", messages, engine));
+  EXPECT_TRUE(TestTextBoxFunctions(F("txtSexRatio"), "lots", "Geschlechterverhältnis", messages, engine));
+  ASSERT_EQ(shown().size(), 3u);
+  EXPECT_EQ(shown()[0].text, "Ungültige Eingabe\r\n\r\nWeibchen, Population 1, Sterblichkeit im Alter von 1 bis 2: "
+                             "der größte zulässige Wert ist 100");
+  EXPECT_EQ(shown()[1].text.rfind("Der Wert sollte ein Prozentsatz sein", 0), 0u);
+  EXPECT_EQ(shown()[2].text, "Geschlechterverhältnis: der Wert muss eine Zahl, eine Funktion (=...) oder ein Verweis "
+                             "auf eine Datei (file=...) sein.");
 }
 
 TEST_F(InputChecksTest, ExactDistributionSumsToOneHundred) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "app/EnglishMessages.h"
 #include "model/GridLayouts.h"
 #include "pages/InputHelpers.h"
 
@@ -41,17 +42,19 @@ TEST(InputHelpers, RateMatrixFileReadsWhatItWrites) {
   const std::string file = ExportRateMatrix(rates);
   EXPECT_EQ(file, ";1.00;1.00\r\n1.00;;=D/2\r\n1.00;1.00;\r\n");
 
+  const EnglishMessages english;
   Grid other = LayoutGrid(F("gridDispRates"), Populations(3));
-  EXPECT_EQ(ImportRateMatrix(other, file), std::nullopt);
+  EXPECT_EQ(ImportRateMatrix(other, file, english), std::nullopt);
   EXPECT_EQ(other, rates);
-  EXPECT_EQ(ImportRateMatrix(other, "1;2;3\n4;5;6\n7;8;9\n\n"), std::nullopt) << "LF lines and a last empty line";
+  EXPECT_EQ(ImportRateMatrix(other, "1;2;3\n4;5;6\n7;8;9\n\n", english), std::nullopt)
+      << "LF lines and a last empty line";
   EXPECT_EQ(other.at(3, 2), "8");
 
   const Grid before = other;
-  const auto fewLines = ImportRateMatrix(other, "1;2;3\n4;5;6\n");
+  const auto fewLines = ImportRateMatrix(other, "1;2;3\n4;5;6\n", english);
   ASSERT_TRUE(fewLines);
   EXPECT_NE(fewLines->find("2 lines"), std::string::npos);
-  const auto manyFields = ImportRateMatrix(other, "1;2;3\n4;5;6;7\n7;8;9\n");
+  const auto manyFields = ImportRateMatrix(other, "1;2;3\n4;5;6;7\n7;8;9\n", english);
   ASSERT_TRUE(manyFields);
   EXPECT_NE(manyFields->find("Line 2"), std::string::npos);
   EXPECT_EQ(other, before) << "a file that does not fit changes nothing";

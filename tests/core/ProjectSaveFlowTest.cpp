@@ -147,7 +147,7 @@ TEST_F(SaveFlow, ChangedProjectAsksBeforeClosing) {
   state.document.title = "Kiwi";
   box.answers = {MsgAnswer::Cancel};
   EXPECT_FALSE(MayCloseProject(state, messages, dialog, Closing::Project));
-  EXPECT_EQ(box.shown.back(), strings.text(9152) + "\n\nKiwi");
+  EXPECT_EQ(box.shown.back(), strings.text(9185) + "\n\nKiwi");
   box.answers = {MsgAnswer::No};
   EXPECT_TRUE(MayCloseProject(state, messages, dialog, Closing::Program));
   EXPECT_EQ(box.shown.back(), strings.text(9118) + "\n\nKiwi");

@@ -38,13 +38,12 @@ TEST(ScenarioManagement, TemplateProposalAvoidsSTScenarios) {
 
 TEST(ScenarioManagement, NameRules) {
   const ScenarioCollection scenarios = Named({"Baseline", "Dry years"});
-  EXPECT_EQ(ScenarioNameProblem(scenarios, 2, "BASELINE"), "Each scenario must have a unique name!");
+  EXPECT_EQ(ScenarioNameProblem(scenarios, 2, "BASELINE"), msg::kNameNotUnique);
   EXPECT_EQ(ScenarioNameProblem(scenarios, 1, "baseline"), std::nullopt) << "a scenario may keep its own name";
   EXPECT_EQ(ScenarioNameProblem(scenarios, 2, "Dry: 10 years"), std::nullopt);
   EXPECT_EQ(ScenarioNameProblem(scenarios, 2, "Dry|<>"), std::nullopt) << "only four characters are refused";
   for (const char* bad : {"a*b", "a?", "a\\b", "a/b"})
-    EXPECT_EQ(ScenarioNameProblem(scenarios, 2, bad),
-              "Scenario names cannot contain characters ( \\ / * or ?) that are not valid within filenames.");
+    EXPECT_EQ(ScenarioNameProblem(scenarios, 2, bad), msg::kNameCharacters) << bad;
 }
 
 TEST(ScenarioManagement, DeleteAsksAndProtectsSTScenarios) {

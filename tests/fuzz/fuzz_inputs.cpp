@@ -24,6 +24,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   } catch (const tamsic::TamsicError&) {
   }
   tamsic::Grid rates(4, 4);
-  tamsic::ImportRateMatrix(rates, text);
+  tamsic::ImportRateMatrix(rates, text, strings);
   return 0;
 }

@@ -289,13 +289,13 @@ class ProjectWindowTest : public QObject {
     frame.newProject({folder.path(), "Salmon", "Ann"});
 
     const auto closeProject = [&frame] { frame.findChild<QAction*>("mniCloseProject")->trigger(); };
-    t.box.expect(t.textIn(1, 9152), tamsic::MsgAnswer::Cancel);
+    t.box.expect(t.textIn(1, 9185), tamsic::MsgAnswer::Cancel);
     closeProject();
     t.box.expect(t.textIn(1, 9118), tamsic::MsgAnswer::Cancel);
     QVERIFY(!frame.close());
     QVERIFY(frame.isVisible());
     QCOMPARE(t.engineClosed, 0);
-    t.box.expect(t.textIn(1, 9152), tamsic::MsgAnswer::Cancel);
+    t.box.expect(t.textIn(1, 9185), tamsic::MsgAnswer::Cancel);
     closeProject();
     QCOMPARE(frame.mdiArea()->subWindowList().size(), 2);
 

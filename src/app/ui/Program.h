@@ -1,13 +1,15 @@
 #pragma once
-// What the windows of one running program share: the texts, the settings and
-// their store, the message box, the recent projects, the save-file dialog and
-// how to close the engine. main() builds one; each test builds its own, with
-// recording stand-ins for the dialogs.
+// What the windows of one running program share: the texts (the string
+// table's and Qt's own), the settings and their store, the message box, the
+// recent projects, the save-file dialog and how to close the engine. main()
+// builds one; each test builds its own, with recording stand-ins for the
+// dialogs.
 #include <functional>
 
 #include "app/GlobalSettings.h"
 #include "app/RecentProjects.h"
 #include "app/StringTable.h"
+#include "app/ui/QtTranslations.h"
 #include "files/ProjectSaveFlow.h"
 #include "model/Messages.h"
 
@@ -19,14 +21,17 @@ struct Program {
         messages(box, table),
         settings(tamsic::ReadGlobalSettings(settingsStore)),
         recent(settingsStore),
-        saveDialog(dialog) {
+        saveDialog(dialog),
+        qtTexts(table) {
     strings.setLanguage(static_cast<tamsic::Language>(settings.language));
+    qtTexts.use(settings.language);
   }
 
   // Sets the language of windows opened from now on and keeps it for the next start.
   void setLanguage(int language) {
     settings.language = language;
     strings.setLanguage(static_cast<tamsic::Language>(language));
+    qtTexts.use(language);
     tamsic::SaveSettings(store, settings);
   }
 
@@ -36,6 +41,7 @@ struct Program {
   tamsic::GlobalSettings settings;
   tamsic::RecentProjects recent;
   tamsic::ISaveFileDialog& saveDialog;
+  QtTranslations qtTexts;
   char decimalSeparator = '.';
   // Called once when the main frame closes.
   std::function<void()> closeEngine = [] {};

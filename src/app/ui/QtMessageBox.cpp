@@ -47,7 +47,8 @@ MsgAnswer QtMessageBox::show(const tamsic::MessageBoxRequest& request) {
   QMessageBox box(IconOf(request.icon), QString::fromStdString(caption),
                   QString::fromStdString(request.text), ButtonsOf(request.buttons),
                   QApplication::activeWindow());
-  // Qt's own button texts would stay English whatever the user's language.
+  // The table's words, as on the buttons of the program's own dialogs; Qt's
+  // translation would add mnemonics (&Ja) that those buttons do not have.
   for (const auto& [button, number] : {std::pair{QMessageBox::Ok, 8104}, std::pair{QMessageBox::Cancel, 8105},
                                        std::pair{QMessageBox::Yes, 9150}, std::pair{QMessageBox::No, 9151}})
     if (QAbstractButton* shown = box.button(button)) shown->setText(QString::fromStdString(strings_.text(number)));

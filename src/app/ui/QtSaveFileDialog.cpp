@@ -9,7 +9,7 @@
 std::optional<std::string> QtSaveFileDialog::AskSavePath(const std::string& folder,
                                                          const std::string& proposedName) {
   const QString start = folder.empty() ? QDir::currentPath() : QString::fromStdString(folder);
-  QFileDialog dialog(QApplication::activeWindow(), QString(), start, kProjectFilter);
+  QFileDialog dialog(QApplication::activeWindow(), QString(), start, ProjectFilter(strings_));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("tpj");
   dialog.selectFile(QString::fromStdString(proposedName));

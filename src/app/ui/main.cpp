@@ -58,7 +58,7 @@ int main(int argc, char** argv) {
   }
   QtSettingsStore store;
   QtMessageBox box(strings);
-  QtSaveFileDialog saveDialog;
+  QtSaveFileDialog saveDialog(strings);
   Program program(strings, store, box, saveDialog);
   program.closeEngine = CloseEngine;
 

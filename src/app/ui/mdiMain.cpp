@@ -402,7 +402,8 @@ void mdiMain::newProjectDialog(const QString& fromTemplate) {
 }
 
 void mdiMain::openDialog() {
-  const QString path = QFileDialog::getOpenFileName(this, text(9004), QDir::currentPath(), kProjectFilter);
+  const QString path = QFileDialog::getOpenFileName(this, text(9004), QDir::currentPath(),
+                                                    ProjectFilter(program_.strings));
   if (!path.isEmpty()) openProject(path);
 }
 

@@ -225,20 +225,19 @@ void TextOutputPage::makeReportIfMissing(const std::filesystem::path& report) {
 void TextOutputPage::fillPopulations() {
   const auto& record = state_.document.scenarios.Item(static_cast<std::size_t>(cboScenario_->currentIndex() + 1));
   const int populations = std::atoi(record.Text(tamsic::F("txtNumPop")).c_str());
-  for (int n = 1; n <= populations; ++n) cboPopulation_->addItem(QStringLiteral("Population %1").arg(n));
-  cboPopulation_->addItem(QStringLiteral("Metapopulation"));
-  cboPopulation_->addItem(QStringLiteral("Within-population"));
+  // The engine heads the report's blocks in English; the chooser names them in the user's words.
+  for (int n = 1; n <= populations; ++n)
+    cboPopulation_->addItem(text(1817) + " " + QString::number(n), QStringLiteral("Population %1").arg(n));
+  cboPopulation_->addItem(text(1924), QStringLiteral("Metapopulation"));
+  cboPopulation_->addItem(text(1925), QStringLiteral("Within"));
   cboPopulation_->setCurrentIndex(0);
   cboPopulation_->setVisible(true);
 }
 
-// The report heads each block with its name; the chooser's entries are those names.
 void TextOutputPage::goToPopulation(int index) {
   if (index < 0) return;
-  QString heading = cboPopulation_->itemText(index);
-  if (heading.startsWith(QStringLiteral("Within"))) heading = QStringLiteral("Within");
   txtReport_->moveCursor(QTextCursor::Start);
-  txtReport_->find(heading);
+  txtReport_->find(cboPopulation_->itemData(index).toString());
   txtReport_->centerCursor();
 }
 
@@ -255,7 +254,7 @@ void TextOutputPage::find() {
 void TextOutputPage::saveReportAs() {
   if (txtReport_->document()->isEmpty()) return;
   const QString path = QFileDialog::getSaveFileName(this, text(1807), QString::fromStdString(folder().string()),
-                                                    QStringLiteral("Text (*.txt)"));
+                                                    text(1821) + " (*.txt)");
   if (path.isEmpty()) return;
   try {
     tamsic::WriteFileReplacing(path.toStdString(), txtReport_->toPlainText().toStdString());

@@ -44,7 +44,7 @@ DispersalPage::DispersalPage(const PageContext& context, QWidget* parent) : Inpu
   SSCommand1 = button("SSCommand1", 319, 304);
   SSCommand2 = button("SSCommand2", 320, 303);
   chooseFile = [this](bool save) {
-    const QString filter = "TXT Files (*.txt)";
+    const QString filter = QString::fromStdString(context_.strings.text(326)) + " (*.txt)";
     return save ? QFileDialog::getSaveFileName(this, {}, "RateMatrix.txt", filter)
                 : QFileDialog::getOpenFileName(this, {}, "RateMatrix.txt", filter);
   };
@@ -139,7 +139,7 @@ void DispersalPage::exportMatrix() {
   QFile file(path);
   const std::string text = tamsic::ExportRateMatrix(gridDispRates->grid()->grid());
   if (!file.open(QIODevice::WriteOnly) || file.write(text.data(), static_cast<qint64>(text.size())) < 0)
-    context_.messages.show("The rate matrix could not be written to " + path.toStdString() + ": " +
+    context_.messages.show(context_.messages.text(tamsic::msg::kRateMatrixNotWritten) + path.toStdString() + ": " +
                                file.errorString().toStdString(),
                            tamsic::msg::kError, tamsic::MsgIcon::Critical);
 }
@@ -149,14 +149,14 @@ void DispersalPage::importMatrix() {
   if (path.isEmpty()) return;
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
-    context_.messages.show("The rate matrix could not be read from " + path.toStdString() + ": " +
+    context_.messages.show(context_.messages.text(tamsic::msg::kRateMatrixNotRead) + path.toStdString() + ": " +
                                file.errorString().toStdString(),
                            tamsic::msg::kError, tamsic::MsgIcon::Critical);
     return;
   }
   tamsic::Grid rates = gridDispRates->grid()->grid();
   const QByteArray contents = file.readAll();
-  if (const auto problem = tamsic::ImportRateMatrix(rates, contents.toStdString())) {
+  if (const auto problem = tamsic::ImportRateMatrix(rates, contents.toStdString(), context_.strings)) {
     context_.messages.show(path.toStdString() + ":\n" + *problem, tamsic::msg::kError, tamsic::MsgIcon::Critical);
     return;
   }

@@ -94,13 +94,13 @@ void GeneticsPage::wire() {
                          chkGenMgtPairMeanKinship})
     connect(box, &QCheckBox::toggled, this, &GeneticsPage::applyEnabling);
   connect(cmdBrowseGenMgtImportStudbookFile, &QPushButton::clicked, this,
-          [this] { browse(valtxtGenMgtImportStudbookFile, "Studbook Files (*.txt)"); });
+          [this] { browse(valtxtGenMgtImportStudbookFile, 1359); });
   connect(cmdBrowseGenMgtAlleleFreqs, &QPushButton::clicked, this,
-          [this] { browse(valtxtGenMgtAlleleFreqs, "Allele Freq Files (*.txt)"); });
+          [this] { browse(valtxtGenMgtAlleleFreqs, 1360); });
 }
 
-void GeneticsPage::browse(QLineEdit* box, const QString& filter) {
-  const QString path = chooseFile(filter);
+void GeneticsPage::browse(QLineEdit* box, int kindOfFile) {
+  const QString path = chooseFile(QString::fromStdString(context_.strings.text(kindOfFile)) + " (*.txt)");
   if (!path.isEmpty()) enter(box, path);
 }
 

@@ -37,5 +37,6 @@ class GeneticsPage : public InputPage {
  private:
   void layOut();
   void wire();
-  void browse(QLineEdit* box, const QString& filter);
+  // Puts the chosen file into the box; `kindOfFile` names the files offered (message number).
+  void browse(QLineEdit* box, int kindOfFile);
 };

@@ -48,8 +48,10 @@ InputPages::InputPages(const PageContext& context, tamsic::ScenarioCollection& s
 
 void InputPages::createPages() {
   settings_ = new ScenarioSettingsPage(context_);
-  settings_->nameProblem = [this](const std::string& name) {
-    return tamsic::ScenarioNameProblem(scenarios_, current_, name);
+  settings_->nameProblem = [this](const std::string& name) -> std::optional<std::string> {
+    if (const auto problem = tamsic::ScenarioNameProblem(scenarios_, current_, name))
+      return context_.strings.text(*problem);
+    return std::nullopt;
   };
   pages_ = {settings_,
             new SpeciesPage(context_),

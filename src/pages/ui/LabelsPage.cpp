@@ -70,7 +70,8 @@ void LabelsPage::addPreset(int preset) {
   tamsic::clsScenario record;
   storeInto(record);
   const auto problem =
-      tamsic::AddStateVariables(record, preset == 0 ? tamsic::StatePreset::Outbreak : tamsic::StatePreset::Spatial);
+      tamsic::AddStateVariables(record, preset == 0 ? tamsic::StatePreset::Outbreak : tamsic::StatePreset::Spatial,
+                                context_.strings);
   if (problem) {
     context_.messages.show(*problem, tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation);
     return;

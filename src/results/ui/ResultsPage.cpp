@@ -370,8 +370,9 @@ void ResultsPage::specifyColumns() {
 void ResultsPage::saveGraph() {
   const QString title = Q(tamsic::Cp1252ToUtf8(tamsic::Trim(state_.document.title)));
   const QString proposed = QDir(Q(tamsic::ResultsFolder(state_))).filePath(title + "_graph.png");
-  const QString path = askSavePath(Q(program_.strings.text(1940)), proposed,
-                                   "PNG images (*.png);;SVG drawings (*.svg)");
+  const QString filters =
+      Q(program_.strings.text(1947)) + " (*.png);;" + Q(program_.strings.text(1948)) + " (*.svg)";
+  const QString path = askSavePath(Q(program_.strings.text(1940)), proposed, filters);
   if (path.isEmpty()) return;
   if (!SaveChartPicture(*chtResults_, path))
     program_.messages.show(program_.messages.text(1946) + path.toStdString(), tamsic::msg::kError,
@@ -382,7 +383,8 @@ void ResultsPage::exportTable() {
   if (!tableShown_) makeTable();
   const QString title = Q(tamsic::Cp1252ToUtf8(tamsic::Trim(state_.document.title)));
   const QString proposed = QDir(Q(tamsic::ResultsFolder(state_))).filePath(title + "_table.csv");
-  const QString path = askSavePath(Q(program_.strings.text(1911)), proposed, "CSV files (*.csv)");
+  const QString path =
+      askSavePath(Q(program_.strings.text(1911)), proposed, Q(program_.strings.text(1949)) + " (*.csv)");
   if (path.isEmpty()) return;
   // Files the program writes are Windows-1252, like the project file.
   std::ofstream out(std::filesystem::path(path.toStdString()), std::ios::binary | std::ios::trunc);
