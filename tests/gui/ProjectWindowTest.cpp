@@ -1,9 +1,8 @@
-// Opening, saving and closing projects through the main frame, and the
-// language of the windows.
+// Opening, saving and closing projects through the main frame, its clipboard
+// and undo commands, and tiling.
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -16,12 +15,6 @@
 using namespace guitest;
 
 namespace {
-
-QString FirstPageLink(const frmProject* project) {
-  return project->findChild<QListWidget*>("hypInput")->item(0)->text();
-}
-
-QString Text(const std::string& text) { return QString::fromStdString(text); }
 
 // Types into a box of the project window and presses Return.
 void Type(frmProject* project, const char* box, const QString& text) {
@@ -43,29 +36,6 @@ class ProjectWindowTest : public QObject {
 
  private slots:
   void init() { ClearSettings(); }
-
-  void languageAppliesToWindowsOpenedAfterwards() {
-    QTemporaryDir folder;
-    TestProgram t;
-    mdiMain frame(t.program);
-    frmProject* before = frame.newProject({folder.path(), "Trout", "Ann"});
-    QCOMPARE(FirstPageLink(before), QString("Scenario Settings"));
-
-    frame.findChild<QAction*>("mniGerman")->trigger();
-
-    QCOMPARE(FirstPageLink(before), QString("Scenario Settings"));
-    QCOMPARE(frame.findChild<QAction*>("mniOpen")->text(), QString("Open Project ..."));
-    frmProject* after = frame.newProject({folder.path(), "Lachs", "Ann"});
-    QCOMPARE(FirstPageLink(after), Text(t.textIn(3, 0)));
-    QVERIFY(FirstPageLink(after) != "Scenario Settings");
-    QCOMPARE(GlobalSettingsFile().value("GlobalSettings/Language").toString(), QString("3"));
-
-    // Message boxes take their text when they are shown.
-    t.box.expect(t.textIn(3, 9139));
-    QVERIFY(frame.openProject(folder.filePath("missing.tpj")) == nullptr);
-    QVERIFY(t.box.allShown());
-    QCOMPARE(t.box.shown.back().caption, t.textIn(3, 9103));
-  }
 
   void newProjectDialogCreatesTheFolderOrSaysWhy() {
     QTemporaryDir folder;

@@ -16,7 +16,6 @@ class PageEnablingTest : public QObject {
   void stateVariableCounts();
   void pageLinksFollowTheCounts();
   void hintsFollowTheFocus();
-  void headingsInTheUsersLanguage();
 };
 
 // A step is "click NAME" or "type NAME VALUE"; the control must then be enabled or not.
@@ -138,22 +137,6 @@ void PageEnablingTest::hintsFollowTheFocus() {
   QCOMPARE(hints.last().first().toString(), QString::fromStdString(h.strings.text(606)));
   mortality->setCurrentIndex(mortality->grid()->indexAt(1, 3));
   QCOMPARE(hints.last().first().toString(), QString::fromStdString(h.strings.text(604)));
-}
-
-void PageEnablingTest::headingsInTheUsersLanguage() {
-  pagestest::Harness h(tamsic::Language::German);
-  const auto text = [&](int number) { return QString::fromStdString(h.strings.text(number)); };
-  const auto heading = [&](const char* grid, int section, Qt::Orientation orientation) {
-    return h.grid(grid)->grid()->headerData(section, orientation, Qt::DisplayRole).toString();
-  };
-  QCOMPARE(heading("gridMortFemales", 0, Qt::Horizontal), text(608) + "0" + text(609) + "1");
-  QCOMPARE(heading("gridMortFemales", 5, Qt::Horizontal), text(613) + "2");
-  QCOMPARE(heading("gridCatastrophes1", 1, Qt::Horizontal), text(710) + " 1");
-  QCOMPARE(heading("gridCarryingCap1", 0, Qt::Vertical), text(1008));
-  QCOMPARE(heading("gridCarryingCap1", 0, Qt::Horizontal), QString("Population 1"));  // labels as typed
-  // The record keeps the headings the layouts write.
-  QCOMPARE(h.record().GetGrid(tamsic::F("gridCarryingCap1")).at(1, 0), std::string("Carrying Capacity (K)"));
-  QVERIFY(text(1008) != "Carrying Capacity (K)");
 }
 
 QTEST_MAIN(PageEnablingTest)
