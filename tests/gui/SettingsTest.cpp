@@ -26,18 +26,6 @@ class SettingsTest : public QObject {
  private slots:
   void init() { ClearSettings(); }
 
-  // The fallbacks are the core's; this reads them through the real settings file.
-  void unreadableSettingsFallBackToOne() {
-    {
-      QSettings file = GlobalSettingsFile();
-      file.setValue("GlobalSettings/ShowEquationDialogOnEquals", "0");
-      file.setValue("GlobalSettings/ShowWelcome", "never");
-    }
-    TestProgram t;
-    QCOMPARE(t.program.settings, (tamsic::GlobalSettings{0, 1, 1}));
-    QCOMPARE(t.strings.language(), tamsic::Language::English);
-  }
-
   void settingsDialogKeepsItsChoicesForTheNextStart() {
     {
       TestProgram t;
@@ -51,21 +39,6 @@ class SettingsTest : public QObject {
     QCOMPARE(file.value("GlobalSettings/Language").toString(), QString("2"));
     TestProgram next;
     QCOMPARE(next.strings.language(), tamsic::Language::Spanish);
-  }
-
-  void recentListLoadsPastAGapAndShowsInTheFileMenu() {
-    {
-      QSettings file = RecentFile();
-      file.setValue("MRUList/1Name", "/p/first.tpj");
-      file.setValue("MRUList/1Title", "First");
-      file.setValue("MRUList/2Name", "");
-      file.setValue("MRUList/3Name", "/p/third & last.tpj");
-    }
-    TestProgram t;
-    mdiMain frame(t.program);
-    QCOMPARE(frame.findChild<QAction*>("mniRecent1")->text(), QString("&1 /p/first.tpj"));
-    QCOMPARE(frame.findChild<QAction*>("mniRecent2")->text(), QString("&2 /p/third && last.tpj"));
-    QVERIFY(frame.findChild<QAction*>("mniRecent3") == nullptr);
   }
 
   // The list's order and length are the core's; opening a project puts it at the top of the file and the menu.

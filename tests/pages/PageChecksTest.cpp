@@ -14,7 +14,6 @@ class PageChecksTest : public QObject {
   void cells_data();
   void cells();
   void aRefusedValueNeverOutlivesItsBox();
-  void undoAndRedoAGridEdit();
   void undoFollowsTheEditAcrossPages();
   void undoOfACountRestoresTheGrids();
   void valuesBeingTypedAreStoredBeforeASave();
@@ -153,20 +152,6 @@ void PageChecksTest::aRefusedValueNeverOutlivesItsBox() {
   QVERIFY(view->indexWidget(view->currentIndex()) == nullptr);
   QCOMPARE(view->grid()->indexAt(1, 3).data().toString(), QString::fromStdString(h.cell("gridMortMales", 1, 3)));
   QCOMPARE(h.undo.count(), 0);
-}
-
-void PageChecksTest::undoAndRedoAGridEdit() {
-  pagestest::Harness h;
-  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
-  h.editCell("gridMortFemales", 1, 3, "17");
-  QTRY_COMPARE(h.cell("gridMortFemales", 1, 3), std::string("17"));
-  GridView* view = h.grid("gridMortFemales");
-  h.pages->undo();
-  QCOMPARE(h.cell("gridMortFemales", 1, 3), std::string("15"));
-  QCOMPARE(view->grid()->indexAt(1, 3).data().toString(), QString("15"));
-  h.pages->redo();
-  QCOMPARE(h.cell("gridMortFemales", 1, 3), std::string("17"));
-  QCOMPARE(view->grid()->indexAt(1, 3).data().toString(), QString("17"));
 }
 
 void PageChecksTest::undoFollowsTheEditAcrossPages() {
