@@ -13,8 +13,6 @@ class PageHelpersTest : public QObject {
  private slots:
   void dispersalCommands();
   void copyInputValues();
-  void presetsAddNumberedVariables();
-  void breedingFunctionFromTheReproductiveSystem();
   void equalsSignOpensTheEditorWhenAsked();
   void stableAgesFillTheAgeGrids();
   void catastropheScopeByItsFirstLetter();
@@ -87,37 +85,6 @@ void PageHelpersTest::copyInputValues() {
   QCOMPARE(h.cell("gridCarryingCap1", 1, 3), std::string("500"));
   QCOMPARE(h.cell("gridRepRates1", 3, 1), std::string("40"));
   QCOMPARE(h.undo.count(), edits + 1);
-}
-
-void PageHelpersTest::presetsAddNumberedVariables() {
-  pagestest::Harness h;
-  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
-  h.type("txtNumIndividualStateParams", "2");
-  Click(h, "OutbreakISVars");
-  QCOMPARE(h.find<QLineEdit>("txtNumIndividualStateParams")->text(), QString("6"));
-  QCOMPARE(h.cell("gridIndividualStateParams", 1, 3), std::string("DiseaseState"));
-  QCOMPARE(h.cell("gridIndividualStateParams", 4, 3), std::string("=IS3"));
-  QVERIFY(h.grid("gridIndividualStateParams")->isEnabled());
-  Click(h, "SpatialISVars");
-  h.box.expect("These 3 variables would make 12 Individual State variables; at most 10 are possible.");
-  Click(h, "SpatialISVars");
-  QCOMPARE(h.find<QLineEdit>("txtNumIndividualStateParams")->text(), QString("9"));
-}
-
-void PageHelpersTest::breedingFunctionFromTheReproductiveSystem() {
-  pagestest::Harness h;
-  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
-  GridView* system = h.grid("gridReproSys");
-  h.showPageOf(system);
-  system->grid()->setData(system->grid()->indexAt(1, 1), Qt::Checked, Qt::CheckStateRole);
-  for (auto [row, value] : {std::pair{2, "50"}, {3, "20"}, {4, "5"}, {5, "2"}}) {
-    h.editCell("gridReproSys", row, 1, value);
-    QTRY_COMPARE(h.cell("gridReproSys", row, 1), std::string(value));
-  }
-  QCOMPARE(h.cell("gridRepRates1", 1, 1), std::string("=(50-((50-20)*((N/K)^2)))*(N/(5+N))"));
-  QCOMPARE(h.grid("gridRepRates1")->grid()->indexAt(1, 1).data().toString(),
-           QString("=(50-((50-20)*((N/K)^2)))*(N/(5+N))"));
-  QVERIFY(h.record().usingformula);
 }
 
 void PageHelpersTest::equalsSignOpensTheEditorWhenAsked() {
