@@ -26,10 +26,6 @@ std::string Fixed2(double value) {
 
 bool Blank(std::string_view text) { return Trim(text).empty(); }
 
-bool TakesFunctions(const ValueRule& rule) {
-  return rule.kind == ValueKind::Rate || rule.kind == ValueKind::WholeRate;
-}
-
 // The engine's verdict on a function; a missing engine is reported and the
 // function kept, to be checked again when the scenario runs.
 bool FormulaRefused(std::string_view text, Messages& messages, Engine& engine) {
@@ -66,6 +62,10 @@ InputPlace ShownPlace(Field grid, const Grid& table, std::size_t row, std::size_
 }
 
 }  // namespace
+
+bool TakesFunctions(const ValueRule& rule) {
+  return rule.kind == ValueKind::Rate || rule.kind == ValueKind::WholeRate;
+}
 
 bool TestCell(std::string_view text, const ValueRule& rule, const InputPlace& place, Messages& messages) {
   ValueRule number = rule;

@@ -30,6 +30,9 @@ bool TestGridCell(Field grid, const Grid& table, std::size_t row, std::size_t co
                   Messages& messages, Engine& engine);
 
 // The check of a text box by its rule; `caption` names the box in messages.
+// Whether a value of this rule may be a function or a file reference.
+bool TakesFunctions(const ValueRule& rule);
+
 bool TestTextBoxFunctions(Field box, std::string_view text, const std::string& caption, Messages& messages,
                           Engine& engine);
 

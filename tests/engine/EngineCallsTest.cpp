@@ -9,6 +9,7 @@
 
 #include "engine/Engine.h"
 #include "engine/EngineLibrary.h"
+#include "functions/FunctionVariables.h"
 
 namespace tamsic {
 namespace {
@@ -65,6 +66,33 @@ TEST(EngineCalls, LongTexts) {
   const auto values = Values(many);
   ASSERT_EQ(values.size(), 10000u);
   EXPECT_EQ(values.back(), 19998);
+}
+
+// The function editor names the graph's variable by its place in its own
+// list; the engine must read every place as the same variable.
+TEST(EngineCalls, TheEditorsVariablesAreTheEnginesVariables) {
+  LibraryEngine engine;
+  std::vector<std::string> names;
+  for (const FunctionVariable& variable : FunctionVariables()) names.emplace_back(variable.name);
+  for (int n = 1; n <= 10; ++n) names.push_back("GS" + std::to_string(n));
+  ASSERT_EQ(names.size(), 96u);
+  for (const std::string& name : names) {
+    if (name == "E") continue;
+    const std::string arguments = name == "KIN()" ? "1;2)" : "1)";
+    const std::string use = name.ends_with("()") ? name.substr(0, name.size() - 1) + arguments : name;
+    const int number = GraphVariableNumber(name);
+    EXPECT_EQ(engine.formulaGraphValues("=" + use, {number, 7, 7, 0, 1, 1}), "7") << name << " as " << number;
+    EXPECT_EQ(VariablesIn(use), std::vector<std::string>{name.substr(0, name.find('('))}) << name;
+  }
+  EXPECT_EQ(GraphVariableNumber("E"), 0);
+  EXPECT_EQ(GraphVariableNumber("kk()"), 27);
+  EXPECT_EQ(ListEntry(FunctionVariables()[15]), "S - Sex (0 or 'F' for female, 1 or 'M\" for male)");
+
+  // Exponents, constants, functions, sexes and file names are not variables.
+  EXPECT_EQ(VariablesIn("1.25e2*E+Pi+S='F'+SQRT(a)*n+A+IIS3(ID)+gs2"),
+            (std::vector<std::string>{"S", "A", "N", "IIS3", "ID", "GS2"}));
+  EXPECT_TRUE(VariablesIn("file=N.txt").empty());
+  EXPECT_TRUE(VariablesIn("=FILE=K").empty());
 }
 
 TEST(EngineCalls, GraphValuesWithTheDefaults) {

@@ -46,6 +46,10 @@
 #include "app/ui/mdiMain.h"
 #include "engine/OutputFiles.h"
 #include "engine/ui/frmSimRun.h"
+#include "functions/FunctionVariables.h"
+#include "functions/ui/frmEquation.h"
+#include "functions/ui/frmEquationPreview.h"
+#include "support/FakeEngine.h"
 #include "files/TextCodec.h"
 #include "pages/ui/GridView.h"
 #include "pages/ui/InputPage.h"
@@ -236,12 +240,16 @@ class EnglishJudge {
 };
 
 // The project's own texts: the user wrote them, in whatever language. The
-// labels of the result variables, which the result files fix, count as names.
-QStringList NamesOf(const tamsic::ProjectState& state) {
+// labels of the result variables, which the result files fix, and the
+// function language's variables and function names count as names too.
+QStringList NamesOf(const tamsic::ProjectState& state, const QStringList& functionWords) {
   const auto text = [](const std::string& record) { return QString::fromStdString(tamsic::Cp1252ToUtf8(record)); };
   QStringList names{text(state.document.title), text(state.document.notes), QDir::home().dirName()};
   for (int number = 1; number <= tamsic::kResultVariableCount; ++number)
     names << QString::fromUtf8(tamsic::ResultLabel(number));
+  for (const tamsic::FunctionVariable& variable : tamsic::FunctionVariables())
+    names << QString::fromStdString(tamsic::ListEntry(variable));
+  names << functionWords;
   for (const std::string& user : state.document.users) names << text(user);
   const auto& scenarios = state.document.scenarios;
   for (std::size_t n = 1; n <= scenarios.Count(); ++n) {
@@ -302,6 +310,7 @@ class LanguageWalkTest : public QObject {
       Find<QAction>(&first, LanguageItem(language))->trigger();
     }
     TextWalk walk;
+    QStringList functionWords;
 
     mdiMain frame(t.program);
     frame.show();
@@ -364,7 +373,12 @@ class LanguageWalkTest : public QObject {
       frmSettings properties(t.program, &frame);
       frmAbout about(t.program, &frame);
       frmSimRun run(t.program, {"Baseline", "Managed"}, &frame);
-      for (QDialog* dialog : std::initializer_list<QDialog*>{&welcome, &properties, &about, &run}) {
+      tamsic::test::FakeEngine engine;
+      frmEquation editor(t.program, engine, "", &frame);
+      frmEquationPreview preview(t.program.messages, engine, "N", &frame);
+      for (const QPushButton* button : editor.findChildren<QPushButton*>(QRegularExpression("^ssOperator_")))
+        if (button->text().size() > 1 && button->text().front().isLetter()) functionWords << button->text();
+      for (QDialog* dialog : std::initializer_list<QDialog*>{&welcome, &properties, &about, &run, &editor, &preview}) {
         dialog->show();
         walk.tree(dialog);
       }
@@ -394,7 +408,7 @@ class LanguageWalkTest : public QObject {
     std::unique_ptr<QMenu> standardMenu(Find<QLineEdit>(project, "txtProjectTitle")->createStandardContextMenu());
     walk.actions(standardMenu->actions(), "text box context menu");
 
-    const EnglishJudge judge(t.strings, static_cast<tamsic::Language>(language), NamesOf(project->state()));
+    const EnglishJudge judge(t.strings, static_cast<tamsic::Language>(language), NamesOf(project->state(), functionWords));
     QSet<QString> english;
     for (const Seen& seen : walk.seen)
       if (const QString why = judge.englishIn(seen.text); !why.isEmpty() && !english.contains(seen.text)) {

@@ -92,16 +92,45 @@ void PageHelpersTest::equalsSignOpensTheEditorWhenAsked() {
   QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
   bool showOnEquals = true;
   QStringList opened;
+  std::optional<QString> answer = "=K*0.5";
   h.context.showEquationDialogOnEquals = [&] { return showOnEquals; };
-  h.context.openEquationEditor = [&](const QString& text) { opened << text; };
+  h.context.openEquationEditor = [&](const QString& text) {
+    opened << text;
+    return answer;
+  };
   GridView* view = h.grid("gridCarryingCap1");
   h.showPageOf(view);
   view->setFocus();
   view->setCurrentIndex(view->grid()->indexAt(1, 1));
   QTest::keyClicks(view, "=");
   QCOMPARE(opened, QStringList{"300"});
+  QCOMPARE(h.cell("gridCarryingCap1", 1, 1), std::string("=K*0.5"));
+
+  // Cancel keeps the value; a cell that takes no function types "=" as text.
+  answer.reset();
+  QTest::keyClicks(view, "=");
+  QCOMPARE(h.cell("gridCarryingCap1", 1, 1), std::string("=K*0.5"));
+  GridView* labels = h.grid("gridPopLabels");
+  h.showPageOf(labels);
+  labels->setFocus();
+  labels->setCurrentIndex(labels->grid()->indexAt(1, 1));
+  QTest::keyClicks(labels, "=");
+  QCOMPARE(opened.size(), 2);
+
+  // A box that may hold a function opens the editor on "=" typed at its start.
+  answer = "=D*(1-N/K)";
+  auto* box = h.find<QLineEdit>("txtDensDispersal");
+  h.showPageOf(box);
+  box->setFocus();
+  box->setCursorPosition(0);
+  QTest::keyClicks(box, "=");
+  QCOMPARE(opened.size(), 3);
+  QCOMPARE(box->text(), QString("=D*(1-N/K)"));
 
   showOnEquals = false;
+  view->setFocus();
+  h.showPageOf(view);
+  view->setFocus();
   QTest::keyClicks(view, "=");
   auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
   QVERIFY(editor);

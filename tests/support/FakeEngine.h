@@ -1,7 +1,7 @@
 #pragma once
 // An engine for tests and benchmarks of the front end: formula tests are
 // answered by a rule the test chooses and remembered, a run is remembered and
-// answered with `runReply`; everything else is answered with nothing.
+// answered with `runReply`, graph values with `graphReply`; everything else with nothing.
 #include <functional>
 #include <string>
 #include <vector>
@@ -28,7 +28,7 @@ class FakeEngine : public Engine {
     formulas.push_back(formula);
     return judge(formula);
   }
-  std::string formulaGraphValues(const std::string&, const GraphRequest&) override { return {}; }
+  std::string formulaGraphValues(const std::string&, const GraphRequest&) override { return graphReply; }
   std::optional<std::string> progress() override { return std::nullopt; }
   bool cancel() override { return false; }
   void close() override {}
@@ -43,6 +43,7 @@ class FakeEngine : public Engine {
   };
   std::vector<Run> runs;
   std::string runReply = "Message: done";
+  std::string graphReply = "0";
 };
 
 }  // namespace tamsic::test

@@ -6,5 +6,5 @@ struct NewProjectRequest {
   QString folder;
   QString name;
   QString user;
-  QString fromTemplate;  // a project file to start from; empty for a blank project
+  QString fromTemplate{};  // a project file to start from; empty for a blank project
 };

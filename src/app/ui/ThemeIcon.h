@@ -4,6 +4,9 @@
 #include <QIcon>
 #include <QStyle>
 
+// "f(x)" drawn in the palette's text colour: no theme has a picture for a function.
+QIcon FunctionIcon();
+
 inline QIcon ThemeIcon(const QString& name, const QStyle& style, QStyle::StandardPixmap fallback) {
   return QIcon::fromTheme(name, style.standardIcon(fallback));
 }

@@ -205,6 +205,7 @@ void mdiMain::buildToolbar() {
   // The Edit menu's own commands, so that their tips name the edit they take back.
   toolbar_->addActions({mniUndo_, mniRedo_});
   toolbar_->addSeparator();
+  tblEquation_ = add("tblEquation", 1411, FunctionIcon());
   tblRun_ = add("tblRun", 1412, ThemeIcon("media-playback-start", look, QStyle::SP_MediaPlay));
 }
 
@@ -255,6 +256,7 @@ void mdiMain::toolbarAction(QAction* item) {
   else if (key == "tblCopy") sendKeyToFocus(Qt::Key_C);
   else if (key == "tblPaste") sendKeyToFocus(Qt::Key_V);
   else if (key == "tblRun") mniRunSim_->trigger();
+  else if (key == "tblEquation" && activeProject()) activeProject()->editFunction();
 }
 
 // The focused control gets the keystroke itself, so that grids and text boxes
@@ -293,7 +295,7 @@ void mdiMain::checkCurrentLanguage() {
 void mdiMain::updateCommands() {
   frmProject* active = activeProject();
   for (QAction* item : {mniCloseProject_, mniSave_, mniSaveAs_, tblSave_, mniAddName_,
-                        mniEditName_, mniRemoveName_, mniRunSim_, tblRun_})
+                        mniEditName_, mniRemoveName_, mniRunSim_, tblRun_, tblEquation_})
     item->setEnabled(active != nullptr);
   undoGroup_->setActiveStack(active ? active->undoStack() : nullptr);
 }

@@ -100,4 +100,5 @@ class mdiMain : public QMainWindow {
   QAction* mniAbout_ = nullptr;
   QAction* tblSave_ = nullptr;
   QAction* tblRun_ = nullptr;
+  QAction* tblEquation_ = nullptr;
 };

@@ -41,6 +41,7 @@ class GridModel : public QAbstractTableModel {
   // What the page says about its cells; all in grid coordinates.
   std::function<CellUse(int row, int col)> cellUse = [](int, int) { return CellUse::Value; };
   std::function<QString(int row, int col)> computedText;
+  std::function<bool(int row, int col)> takesFunctions = [](int, int) { return false; };
   std::function<QStringList(int row, int col)> choices;
   // How a stored heading is shown; as stored unless the page translates it.
   std::function<QString(const std::string& stored)> heading;

@@ -89,6 +89,21 @@ void GridView::dropRefusedEdit() {
     QTableView::closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
 }
 
+bool GridView::editFunction() {
+  const QModelIndex index = currentIndex();
+  if (!index.isValid() || !(model_->flags(index) & Qt::ItemIsEditable) || !context_.openEquationEditor ||
+      !model_->takesFunctions(model_->gridRow(index), model_->gridCol(index)))
+    return false;
+  QString start = index.data(Qt::EditRole).toString();
+  if (auto* editor = qobject_cast<QLineEdit*>(indexWidget(index)); editor && state() == EditingState) {
+    start = editor->text();
+    QTableView::closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+  }
+  if (const auto function = context_.openEquationEditor(start)) model_->setData(index, *function, Qt::EditRole);
+  setFocus();
+  return true;
+}
+
 QSize GridView::sizeHint() const {
   constexpr int kWidest = 1200;
   constexpr int kHighest = 600;
@@ -200,11 +215,9 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   if (editBlock(event)) return;
   const QModelIndex index = currentIndex();
   const bool valueCell = index.isValid() && (model_->flags(index) & Qt::ItemIsEditable);
-  if (valueCell && event->text() == "=" && state() != EditingState && context_.openEquationEditor &&
-      context_.showEquationDialogOnEquals()) {
-    context_.openEquationEditor(index.data(Qt::EditRole).toString());
+  if (valueCell && event->text() == "=" && state() != EditingState && context_.showEquationDialogOnEquals() &&
+      editFunction())
     return;
-  }
   // A letter picks one of the words of a choice cell, "G" for "Global".
   if (index.isValid() && state() != EditingState && model_->choices &&
       model_->cellUse(model_->gridRow(index), model_->gridCol(index)) == CellUse::Choice && !event->text().isEmpty()) {

@@ -21,6 +21,10 @@ class GridView : public QTableView {
   void setGridEnabled(bool enabled);
   // Closes an editor kept open on a refused value; the cell shows its stored value again.
   void dropRefusedEdit();
+  // Opens the function editor on the current cell when it may hold a function
+  // (taking over any typing in its editor) and stores the answer through the
+  // cell's check; false when the cell takes no function.
+  bool editFunction();
   // The hint of a cell (grid coordinates); the grid's own hint by default.
   std::function<int(int row, int col)> hintOf;
   QSize sizeHint() const override;

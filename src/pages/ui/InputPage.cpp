@@ -1,6 +1,9 @@
 #include "pages/ui/InputPage.h"
 
+#include <algorithm>
+
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -43,7 +46,29 @@ QLineEdit* InputPage::textBox(const char* name, tamsic::Field field, FieldBindin
   bindings_.add(box, field, [rule, check = std::move(check)](const QString& text) {
     return rule(text) || (check && check(text));
   });
+  if (tamsic::TakesFunctions(input.rule)) {
+    functionBoxes_.push_back(box);
+    box->installEventFilter(this);
+  }
   return box;
+}
+
+bool InputPage::editFunction(QLineEdit* box) {
+  if (std::find(functionBoxes_.begin(), functionBoxes_.end(), box) == functionBoxes_.end() ||
+      !context_.openEquationEditor)
+    return false;
+  if (const auto function = context_.openEquationEditor(box->text())) enter(box, *function);
+  box->setFocus();
+  return true;
+}
+
+// "=" typed at the start of a box that may hold a function opens the editor.
+bool InputPage::eventFilter(QObject* watched, QEvent* event) {
+  auto* box = qobject_cast<QLineEdit*>(watched);
+  if (box == nullptr || event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->text() != "=" ||
+      box->cursorPosition() != 0 || box->hasSelectedText() || !context_.showEquationDialogOnEquals())
+    return QWidget::eventFilter(watched, event);
+  return editFunction(box);
 }
 
 QCheckBox* InputPage::checkBox(const char* name, tamsic::Field field) {
@@ -80,6 +105,9 @@ GridView* InputPage::gridView(const char* name, tamsic::Field field) {
     }
   };
   view->grid()->choices = [](int, int) { return QStringList{"Local", "Global"}; };
+  view->grid()->takesFunctions = [field](int row, int col) {
+    return tamsic::TakesFunctions(tamsic::CellRule(field, static_cast<std::size_t>(row), static_cast<std::size_t>(col)));
+  };
   view->grid()->heading = [this](const std::string& stored) { return headings_.shown(stored); };
   connect(view, &GridView::hintChanged, this, &InputPage::hintChanged);
   connect(view->grid(), &GridModel::committed, this, [this] {

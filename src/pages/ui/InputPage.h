@@ -34,6 +34,9 @@ class InputPage : public QWidget {
   void enter(QLineEdit* box, const QString& text) { bindings_.enter(box, text); }
   // Stores a box's pending text, or puts a refused one back: the box is being left for good.
   void settle() { bindings_.settle(); }
+  // Opens the function editor on one of the page's boxes that may hold a
+  // function and enters the answer; false for any other box.
+  bool editFunction(QLineEdit* box);
 
  signals:
   // A user edit was accepted; the window records it for undo.
@@ -51,6 +54,7 @@ class InputPage : public QWidget {
   GridView* gridView(const char* name, tamsic::Field field);
   QLabel* label(int caption);
   QPushButton* button(const char* name, int caption, int hint);
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
   const PageContext& context_;
   bool updating_ = false;
@@ -60,4 +64,5 @@ class InputPage : public QWidget {
   FieldBindings bindings_;
   GridHeadings headings_;
   std::vector<GridView*> grids_;
+  std::vector<QLineEdit*> functionBoxes_;
 };

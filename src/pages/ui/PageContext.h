@@ -14,11 +14,11 @@ struct PageContext {
   const tamsic::IStringTable& strings;
   tamsic::Messages& messages;
   tamsic::Engine& engine;
-  // Whether "=" typed in a cell opens the equation editor; the editor itself
-  // answers through openEquationEditor, which is empty until there is one.
+  // Whether "=" typed in a cell or box opens the function editor.
   std::function<bool()> showEquationDialogOnEquals = [] { return false; };
-  std::function<void(const QString& cellText)> openEquationEditor = nullptr;
-  // Shows a function and its graph; empty until the preview window exists.
+  // The function editor on a cell's value: the new value, or nothing when the user cancels.
+  std::function<std::optional<QString>(const QString& cellText)> openEquationEditor = nullptr;
+  // Shows a function and its graph.
   std::function<void(const QString& function)> openFunctionPreview = nullptr;
   // Fills a record's initial numbers by age from the stable age distribution
   // (the window saves the project for the engine); answers the error, if any.

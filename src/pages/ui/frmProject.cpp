@@ -26,8 +26,12 @@
 #include "engine/ui/frmSimRun.h"
 #include "files/ProjectFile.h"
 #include "files/TextCodec.h"
+#include "functions/ui/frmEquation.h"
+#include "functions/ui/frmEquationPreview.h"
 #include "pages/StableAgeDistribution.h"
 #include "pages/ui/FlowLayout.h"
+#include "pages/ui/GridView.h"
+#include "pages/ui/InputPage.h"
 #include "pages/ui/InputPages.h"
 #include "pages/ui/ProjectSettingsPage.h"
 #include "pages/ui/ScenarioBar.h"
@@ -36,6 +40,7 @@
 namespace {
 
 constexpr int kUserNamePrompt = 1713;
+constexpr int kChooseFunctionInput = 9199;
 
 QString FromFile(const std::string& text) {
   return QString::fromStdString(tamsic::Cp1252ToUtf8(text));
@@ -67,6 +72,13 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
   setObjectName("frmProject");
   context_.showEquationDialogOnEquals = [this] { return program_.settings.showEquationDialogOnEquals != 0; };
   context_.decimalSeparator = program.decimalSeparator;
+  context_.openEquationEditor = [this](const QString& cellText) {
+    return frmEquation::Edit(program_, engine_, cellText, this);
+  };
+  context_.openFunctionPreview = [this](const QString& function) {
+    frmEquationPreview preview(program_.messages, engine_, function, this);
+    preview.exec();
+  };
   context_.stableAgeDistribution = [this](tamsic::clsScenario& record, std::size_t number) {
     return stableAgeDistribution(record, number);
   };
@@ -182,6 +194,17 @@ void frmProject::undo() {
 void frmProject::redo() {
   tabs_->setCurrentIndex(0);
   inputPages_->redo();
+}
+
+void frmProject::editFunction() {
+  QWidget* focus = QApplication::focusWidget();
+  for (QWidget* widget = focus; widget != nullptr && widget != this; widget = widget->parentWidget()) {
+    if (auto* grid = qobject_cast<GridView*>(widget); grid && grid->editFunction()) return;
+    if (auto* page = qobject_cast<InputPage*>(widget))
+      if (auto* box = qobject_cast<QLineEdit*>(focus); box && page->editFunction(box)) return;
+  }
+  program_.messages.show(program_.messages.text(kChooseFunctionInput), tamsic::msg::kWarning,
+                         tamsic::MsgIcon::Information);
 }
 
 std::size_t frmProject::currentScenario() const { return inputPages_->currentScenario(); }

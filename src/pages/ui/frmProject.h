@@ -49,6 +49,9 @@ class frmProject : public QWidget {
   void undo();
   void redo();
 
+  // The function editor on the cell or box in focus, when it may hold a function.
+  void editFunction();
+
   // The scenario on show, counted from 1.
   std::size_t currentScenario() const;
   void showScenario(std::size_t number);
