@@ -89,6 +89,9 @@ const std::map<int, std::string>& Table() {
       {9186, "These pasted values were refused and not stored:"},
       {9187, "These pasted values were stored; please check them:"},
       {9188, "Cells not listed here: "},
+      {9195, "The help manual was not found. It is looked for in these folders:"},
+      {9196, "The help manual could not be read:"},
+      {9197, "The page could not be printed:"},
   };
   return table;
 }
