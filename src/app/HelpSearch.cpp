@@ -20,10 +20,17 @@ std::string Lower(std::string_view text) {
   return lower;
 }
 
-bool LessIgnoringCase(const IndexEntry& a, const IndexEntry& b) {
+std::string FileOf(const IndexEntry& entry) { return entry.target.substr(0, entry.target.find('#')); }
+
+bool Anchored(const IndexEntry& entry) { return entry.target.find('#') != std::string::npos; }
+
+// By keyword regardless of case, then by page; for one keyword and page the entry with an anchor first.
+bool Before(const IndexEntry& a, const IndexEntry& b) {
   const std::string x = Lower(a.keyword);
   const std::string y = Lower(b.keyword);
-  return x != y ? x < y : a.title < b.title;
+  if (x != y) return x < y;
+  if (FileOf(a) != FileOf(b)) return a.title < b.title;
+  return Anchored(a) && !Anchored(b);
 }
 
 // Bytes of non-ASCII letters (UTF-8) count as letters, so that "ö" does not split a word.
@@ -77,9 +84,9 @@ std::vector<IndexEntry> BuildIndex(const HelpManual& manual) {
     for (const HtmlHeading& heading : page.html.headings)
       if (!heading.id.empty()) index.push_back({heading.text, page.html.title, page.file + "#" + heading.id});
   }
-  std::sort(index.begin(), index.end(), LessIgnoringCase);
+  std::sort(index.begin(), index.end(), Before);
   const auto same = [](const IndexEntry& a, const IndexEntry& b) {
-    return Lower(a.keyword) == Lower(b.keyword) && a.target == b.target;
+    return Lower(a.keyword) == Lower(b.keyword) && FileOf(a) == FileOf(b);
   };
   index.erase(std::unique(index.begin(), index.end(), same), index.end());
   return index;

@@ -18,7 +18,8 @@ struct IndexEntry {
   std::string target;  // "page.html" or "page.html#id"
 };
 
-// Sorted by keyword regardless of letter case; a keyword given twice for one target is listed once.
+// Sorted by keyword regardless of letter case. A keyword given twice for one
+// page (as a keyword and as a heading) is listed once, leading to the heading.
 std::vector<IndexEntry> BuildIndex(const HelpManual& manual);
 
 // The entries whose keyword begins with the text, then those that hold it elsewhere, letter case aside.

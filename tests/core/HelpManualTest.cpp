@@ -39,7 +39,8 @@ class SmallManual : public ::testing::Test {
                "<p><a href=\"#nowhere\">a</a> <a href=\"missing.html\">b</a> <a href=\"https://example.org\">c</a>"
                " <a href=\"extinction.html#median\">d</a> <img src=\"images/none.png\"></p>"));
     Write(folder / "extinction.html",
-          Page("Extinction risk", "extinction, P[extinct]", "<h2 id=\"median\">Median time to extinction</h2>"));
+          Page("Extinction risk", "extinction, P[extinct], median time to extinction",
+               "<h2 id=\"median\">Median time to extinction</h2>"));
     manual = HelpManual::Load(folder);
   }
 

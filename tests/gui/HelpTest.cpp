@@ -111,6 +111,7 @@ class HelpTest : public QObject {
     });
     run.exec();
     QCOMPARE(topic, QString("running.html#run-dialog"));
+    QCOMPARE(Find<QTreeWidget>(frame_.get(), "trvContents")->currentItem()->text(0), QString("The run dialog"));
     QCOMPARE(helpModality, Qt::ApplicationModal);
 
     // Asked for again with no dialog open, the one window takes input beside the others again.

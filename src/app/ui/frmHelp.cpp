@@ -211,16 +211,22 @@ void frmHelp::followLink(const QUrl& link) {
   if (QFileInfo(resolved.toLocalFile()).canonicalPath() == folder) txtTopic_->setSource(resolved);
 }
 
-// The contents show where the page on show stands. The browser tells of a
-// new page before its source() has become that page.
+// The contents show where the page on show stands: its own entry, else its
+// page's. The browser tells of a new page before its source() has become it.
 void frmHelp::markContents(const QUrl& shown) {
-  const QString file = shown.fileName();
+  const QString target = shown.hasFragment() ? shown.fileName() + '#' + shown.fragment() : shown.fileName();
+  QTreeWidgetItem* page = nullptr;
   for (QTreeWidgetItemIterator it(trvContents_); *it != nullptr; ++it) {
-    if (FileOf((*it)->data(0, kTarget).toString()) != file) continue;
-    const QSignalBlocker quiet(trvContents_);
-    trvContents_->setCurrentItem(*it);
-    return;
+    const QString entry = (*it)->data(0, kTarget).toString();
+    if (entry == target) {
+      page = *it;
+      break;
+    }
+    if (page == nullptr && FileOf(entry) == shown.fileName()) page = *it;
   }
+  if (page == nullptr) return;
+  const QSignalBlocker quiet(trvContents_);
+  trvContents_->setCurrentItem(page);
 }
 
 void frmHelp::print() {
