@@ -1,6 +1,7 @@
 #include "app/ui/frmHelp.h"
 
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,6 +9,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabWidget>
@@ -52,7 +54,8 @@ frmHelp::frmHelp(Program& program, const tamsic::HelpManual& manual, QWidget* pa
   layout->addWidget(split, 1);
   wireSignals();
   fillIndex({});
-  resize(1000, 700);
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  resize(screen ? QSize(1000, 700).boundedTo(screen->availableGeometry().size() * 9 / 10) : QSize(1000, 700));
 }
 
 QWidget* frmHelp::buildContents() {
