@@ -89,6 +89,9 @@ const std::map<int, std::string>& Table() {
       {9186, "These pasted values were refused and not stored:"},
       {9187, "These pasted values were stored; please check them:"},
       {9188, "Cells not listed here: "},
+      {9195, "The help manual was not found. It is looked for in these folders:"},
+      {9196, "The help manual could not be read:"},
+      {9197, "The page could not be printed:"},
       {9198, "The graph needs whole numbers in From and To, To not below From, and an Increment above 0."},
       {9199, "Click the cell or box that should hold the function, then open the function editor."},
   };

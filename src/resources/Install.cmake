@@ -1,6 +1,6 @@
 # Installation and the Debian package (`cpack` in the build folder). The
-# programs, the engine library, the string table and the example projects live
-# together in lib/.../tamsic, where each finds the others beside itself;
+# programs, the engine library, the string table, the example projects and the
+# manual live together in lib/.../tamsic, where each finds the others beside itself;
 # bin/ holds links to the two programs. That folder is not the user's to
 # write, so the engine's work files go to the user's own temporary folder.
 # The desktop entry, the icon and the project file type make a project open
@@ -13,6 +13,7 @@ install(TARGETS tamsic LIBRARY DESTINATION ${TAMSIC_INSTALL_DIR} NAMELINK_SKIP)
 install(FILES ${CMAKE_CURRENT_LIST_DIR}/strings.txt DESTINATION ${TAMSIC_INSTALL_DIR}/resources)
 file(GLOB TAMSIC_INSTALLED_EXAMPLES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/examples/*.tpj)
 install(FILES ${TAMSIC_INSTALLED_EXAMPLES} DESTINATION ${TAMSIC_INSTALL_DIR}/examples)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/manual/ DESTINATION ${TAMSIC_INSTALL_DIR}/manual)
 
 file(RELATIVE_PATH TAMSIC_FROM_BIN /usr/${CMAKE_INSTALL_BINDIR} /usr/${TAMSIC_INSTALL_DIR})
 foreach(program tamsic tamsic-cli)

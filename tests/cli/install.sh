@@ -1,6 +1,6 @@
 #!/bin/sh
 # An installation works from its own folders: the programs are found through
-# the links in bin/, find the string table and the engine beside themselves,
+# the links in bin/, find the string table, the manual and the engine beside themselves,
 # and the desktop entry opens projects of the file type the package registers.
 set -u
 build="$1"
@@ -19,6 +19,8 @@ sed 's/^NumIter="500"/NumIter="4"/; s/^NumYears="100"/NumYears="5"/' "$examples/
 "$work/usr/bin/tamsic-cli" run "$work/G.tpj" --seed 2 > "$work/out" 2> "$work/err" || { fail "installed run"; cat "$work/err"; }
 grep -q '^Baseline;5;4;' "$work/out" || fail "the installed run's summary"
 ls "$work"/usr/lib*/tamsic/examples/Koalas.tpj > /dev/null 2>&1 || fail "the examples beside the program"
+ls "$work"/usr/lib*/tamsic/manual/contents.html "$work"/usr/lib*/tamsic/manual/images/*.png > /dev/null 2>&1 ||
+  fail "the manual beside the program"
 
 desktop="$work/usr/share/applications/tamsic.desktop"
 mime="$work/usr/share/mime/packages/tamsic.xml"

@@ -9,7 +9,9 @@
 // does. Names are left out: the project's own texts (its title, notes, users,
 // scenarios, populations and catastrophes), the labels of the result
 // variables that the result files fix, file names and paths, and the few
-// words that the languages write alike.
+// words that the languages write alike. The manual is English in every
+// language: its pages, and the contents, keywords and topics of the help
+// window's lists, are content, while the window's own texts are walked.
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
@@ -41,6 +43,7 @@
 #include "app/ui/QtSaveFileDialog.h"
 #include "app/ui/frmAbout.h"
 #include "app/ui/frmNewProject.h"
+#include "app/ui/frmHelp.h"
 #include "app/ui/frmSettings.h"
 #include "app/ui/frmWelcome.h"
 #include "app/ui/mdiMain.h"
@@ -97,6 +100,8 @@ class TextWalk {
   }
 
   std::vector<Seen> seen;
+  // Views whose items are content, not texts of the program.
+  std::set<const QWidget*> content;
 
  private:
   void widget(QWidget* w) {
@@ -121,7 +126,8 @@ class TextWalk {
       }
     if (auto* combo = qobject_cast<QComboBox*>(w))
       for (int i = 0; i < combo->count(); ++i) add(combo->itemText(i), where + " item");
-    if (auto* view = qobject_cast<QAbstractItemView*>(w); view && !qobject_cast<QHeaderView*>(w) && view->model())
+    if (auto* view = qobject_cast<QAbstractItemView*>(w);
+        view && !qobject_cast<QHeaderView*>(w) && view->model() && !content.contains(view))
       model(*view->model(), where, !qobject_cast<QTableView*>(w));
     if (auto* chart = qobject_cast<QChartView*>(w)) {
       add(chart->chart()->title(), where + " chart title");
@@ -405,6 +411,18 @@ class LanguageWalkTest : public QObject {
     QVERIFY(WalkModal(walk, [&] { Find<QPushButton>(project, "cmdSpecialOptions")->click(); }));
     tabs->setCurrentIndex(3);
     QVERIFY(WalkModal(walk, [&] { Find<QPushButton>(project, "cmdSpecify")->click(); }));
+    // The help window, with a search that finds nothing.
+    Find<QAction>(&frame, "mniContents")->trigger();
+    auto* help = Find<frmHelp>(&frame, "frmHelp");
+    for (const char* view : {"trvContents", "lstIndex", "lstSearch"}) walk.content.insert(Find<QWidget>(help, view));
+    Find<QLineEdit>(help, "txtSearch")->setText("zebra");
+    Find<QPushButton>(help, "cmdSearch")->click();
+    auto* helpTabs = Find<QTabWidget>(help, "tabHelp");
+    for (int tab = 0; tab < helpTabs->count(); ++tab) {
+      helpTabs->setCurrentIndex(tab);
+      walk.tree(help);
+    }
+    help->close();
     std::unique_ptr<QMenu> standardMenu(Find<QLineEdit>(project, "txtProjectTitle")->createStandardContextMenu());
     walk.actions(standardMenu->actions(), "text box context menu");
 

@@ -14,8 +14,10 @@
 #include <QToolBar>
 #include <QUndoGroup>
 #include <QUndoStack>
+#include <QWhatsThis>
 
 #include "app/ui/FileFilter.h"
+#include "app/ui/HelpDesk.h"
 #include "app/ui/Program.h"
 #include "app/ui/ThemeIcon.h"
 #include "app/ui/WindowArrangement.h"
@@ -177,9 +179,23 @@ void mdiMain::buildWindowMenu() {
   menuBar()->addMenu(text(9018))->addActions({mniCascade_, mniTileH_, mniTileV_, mniArrange_});
 }
 
+// The help commands are wired here, beside the help desk they call: the
+// contents, "What's This?" mode (Shift+F1) and the manual in the web browser.
+// F1 needs no command: the desk answers it wherever the focus is.
 void mdiMain::buildHelpMenu() {
+  help_ = new HelpDesk(program_, this);
+  QAction* mniContents = action("mniContents", 9024);
+  QAction* mniContext = action("mniContext", 9025);
+  mniContext->setShortcut(QKeySequence::WhatsThis);
+  QAction* mniWebHelp = action("mniWebHelp", 9027);
   mniAbout_ = action("mniAbout", 9026);
-  menuBar()->addMenu(text(9023))->addAction(mniAbout_);
+  QMenu* help = menuBar()->addMenu(text(9023));
+  help->addActions({mniContents, mniContext, mniWebHelp});
+  help->addSeparator();
+  help->addAction(mniAbout_);
+  connect(mniContents, &QAction::triggered, help_, &HelpDesk::showContents);
+  connect(mniContext, &QAction::triggered, this, [] { QWhatsThis::enterWhatsThisMode(); });
+  connect(mniWebHelp, &QAction::triggered, help_, &HelpDesk::openInBrowser);
 }
 
 void mdiMain::buildToolbar() {
@@ -205,7 +221,10 @@ void mdiMain::buildToolbar() {
   // The Edit menu's own commands, so that their tips name the edit they take back.
   toolbar_->addActions({mniUndo_, mniRedo_});
   toolbar_->addSeparator();
+  add("tblHelp", 1408, ThemeIcon("help-contents", look, QStyle::SP_DialogHelpButton));
+  add("tblQuickHelp", 1409, ThemeIcon("help-faq", look, QStyle::SP_TitleBarContextHelpButton));
   tblEquation_ = add("tblEquation", 1411, FunctionIcon());
+  toolbar_->addSeparator();
   tblRun_ = add("tblRun", 1412, ThemeIcon("media-playback-start", look, QStyle::SP_MediaPlay));
 }
 
@@ -257,6 +276,8 @@ void mdiMain::toolbarAction(QAction* item) {
   else if (key == "tblPaste") sendKeyToFocus(Qt::Key_V);
   else if (key == "tblRun") mniRunSim_->trigger();
   else if (key == "tblEquation" && activeProject()) activeProject()->editFunction();
+  else if (key == "tblHelp") help_->showContents();
+  else if (key == "tblQuickHelp") QWhatsThis::enterWhatsThisMode();
 }
 
 // The focused control gets the keystroke itself, so that grids and text boxes

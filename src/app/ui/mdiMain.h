@@ -10,6 +10,7 @@
 #include "files/ProjectOpen.h"
 
 struct Program;
+class HelpDesk;
 class QActionGroup;
 class QMdiArea;
 class QMenu;
@@ -98,6 +99,7 @@ class mdiMain : public QMainWindow {
   QAction* mniTileV_ = nullptr;
   QAction* mniArrange_ = nullptr;
   QAction* mniAbout_ = nullptr;
+  HelpDesk* help_ = nullptr;
   QAction* tblSave_ = nullptr;
   QAction* tblRun_ = nullptr;
   QAction* tblEquation_ = nullptr;

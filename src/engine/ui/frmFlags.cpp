@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/HelpTopics.h"
+#include "app/ui/HelpDesk.h"
 #include "app/ui/Program.h"
 #include "engine/SpecialOptionsFlags.h"
 #include "files/TextCodec.h"
@@ -69,8 +71,12 @@ frmFlags::frmFlags(Program& program, const tamsic::SpecialOptions& accepted, QWi
   cmdOk->setToolTip(text(2017));
   QPushButton* cmdCancel = buttons->addButton(text(2016), QDialogButtonBox::RejectRole);
   cmdCancel->setObjectName("cmdCancel");
+  QPushButton* cmdHelp = buttons->addButton(text(2014), QDialogButtonBox::HelpRole);
+  cmdHelp->setObjectName("cmdHelp");
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  connect(buttons, &QDialogButtonBox::helpRequested, this,
+          [this] { ShowHelpTopic(this, tamsic::help::kSpecialOptions); });
   layout->addWidget(buttons);
 
   for (std::size_t i = 0; i < 10; ++i) {

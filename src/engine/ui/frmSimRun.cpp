@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/HelpTopics.h"
+#include "app/ui/HelpDesk.h"
 #include "app/ui/Program.h"
 #include "files/TextCodec.h"
 
@@ -40,15 +42,18 @@ frmSimRun::frmSimRun(Program& program, const QStringList& scenarios, QWidget* pa
   cmdRun->setDefault(true);
   QPushButton* cmdResumeRun = button("cmdResumeRun", 8205, 8211);
   QPushButton* StepWiseCommand = button("StepWiseCommand", 8206, 8212);
+  QPushButton* cmdHelp = button("cmdHelp", 8208, 0);
   QPushButton* cmdClose = button("cmdClose", 8207, 0);
   connect(cmdRun, &QPushButton::clicked, this, [this] { confirm(QString()); });
   connect(cmdResumeRun, &QPushButton::clicked, this, [this] { confirm(QStringLiteral("+")); });
   connect(StepWiseCommand, &QPushButton::clicked, this, [this] { confirm(QStringLiteral("META")); });
+  connect(cmdHelp, &QPushButton::clicked, this, [this] { ShowHelpTopic(this, tamsic::help::kRunDialog); });
   connect(cmdClose, &QPushButton::clicked, this, &QDialog::reject);
 
   auto* commands = new QVBoxLayout;
   for (QPushButton* command : {cmdRun, cmdResumeRun, StepWiseCommand}) commands->addWidget(command);
   commands->addStretch(1);
+  commands->addWidget(cmdHelp);
   commands->addWidget(cmdClose);
   auto* list = new QVBoxLayout;
   list->addWidget(new QLabel(text(8202), this));

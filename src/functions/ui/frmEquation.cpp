@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/HelpTopics.h"
+#include "app/ui/HelpDesk.h"
 #include "app/ui/Program.h"
 #include "functions/FunctionEditing.h"
 #include "functions/FunctionVariables.h"
@@ -111,7 +113,8 @@ frmEquation::frmEquation(Program& program, tamsic::Engine& engine, const QString
   });
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  connect(buttons, &QDialogButtonBox::helpRequested, this, &frmEquation::helpRequested);
+  connect(buttons, &QDialogButtonBox::helpRequested, this,
+          [this] { ShowHelpTopic(this, tamsic::help::kFunctionEditor); });
 
   graph_->detectVariables();
   if (!cboEQ_->currentText().isEmpty()) graph_->updateGraph();

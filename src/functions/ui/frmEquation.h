@@ -28,9 +28,6 @@ class frmEquation : public QDialog {
   static std::optional<QString> Edit(Program& program, tamsic::Engine& engine, const QString& cellText,
                                      QWidget* parent);
 
- signals:
-  void helpRequested();
-
  private:
   QWidget* buildOperators();
   QWidget* buildVariables();
