@@ -34,8 +34,6 @@ ProjectCompanions::ProjectCompanions(Program& program, QMainWindow& frame, QMdiA
   connect(&area_, &QMdiArea::subWindowActivated, this, &ProjectCompanions::activated);
 }
 
-ProjectCompanions::~ProjectCompanions() { disconnect(&area_, nullptr, this, nullptr); }
-
 void ProjectCompanions::activated(QMdiSubWindow* window) {
   auto* project = window ? qobject_cast<frmProject*>(window->widget()) : nullptr;
   if (project == nullptr) return;

@@ -21,7 +21,6 @@ class ProjectCompanions : public QObject {
   Q_OBJECT
  public:
   ProjectCompanions(Program& program, QMainWindow& frame, QMdiArea& area);
-  ~ProjectCompanions() override;
 
   // The notes of the project window last active; without one the user is told.
   void showNotes();
