@@ -30,7 +30,9 @@ FormatBar::FormatBar(QTextEdit& editor, const std::function<QString(int)>& text,
   addSeparator();
   bullets_ = add("cmdBullets", "format-list-unordered", kBullets, kBulletsHint);
   numbers_ = add("cmdNumbers", "format-list-ordered", kNumbers, kNumbersHint);
-  for (QAction* shortcut : {bold_, italic_, underline_}) shortcut->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  // The keys work while the editor has the focus, and only there.
+  for (QAction* shortcut : {bold_, italic_, underline_}) shortcut->setShortcutContext(Qt::WidgetShortcut);
+  editor_.addActions({bold_, italic_, underline_});
 
   connect(bold_, &QAction::triggered, this, [this](bool on) { editor_.setFontWeight(on ? QFont::Bold : QFont::Normal); });
   connect(italic_, &QAction::triggered, &editor_, &QTextEdit::setFontItalic);

@@ -8,7 +8,9 @@
 namespace {
 
 // Blanks and tabs stand as typed; paragraphs have no space between them, as in the editor.
-const QString kNoteStyle = QStringLiteral("p, li { white-space: pre-wrap; margin-top: 0px; margin-bottom: 0px; }");
+const QString kNoteStyle =
+    QStringLiteral("p, li { white-space: pre-wrap; margin-top: 0px; margin-bottom: 0px; } "
+                   "ul, ol { margin-top: 0px; margin-bottom: 0px; }");
 
 // A stored note begins with one of the block tags the writer makes.
 bool IsStoredForm(const QString& text) {
@@ -16,12 +18,11 @@ bool IsStoredForm(const QString& text) {
          text.startsWith(QLatin1String("<ul>")) || text.startsWith(QLatin1String("<ol>"));
 }
 
-// Pictures are no part of a note.
+// Quotes stay as typed: they need no escape in HTML text. Pictures are no part of a note.
 QString Escaped(QString text) {
   text.remove(QChar::ObjectReplacementCharacter);
-  QString out = text.toHtmlEscaped();
-  out.replace(QChar::LineSeparator, QLatin1String("<br>"));
-  return out;
+  text.replace('&', QLatin1String("&amp;")).replace('<', QLatin1String("&lt;")).replace('>', QLatin1String("&gt;"));
+  return text.replace(QChar::LineSeparator, QLatin1String("<br>"));
 }
 
 QString Fragments(const QTextBlock& block) {

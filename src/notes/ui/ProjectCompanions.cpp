@@ -54,7 +54,7 @@ void ProjectCompanions::showNotes() {
   notes_->follow(lastProject_);
   notes_->show();
   notes_->raise();
-  notes_->widget()->setFocus();
+  notes_->setFocus();
 }
 
 QMdiSubWindow* ProjectCompanions::reportWindowOf(const frmProject& project) const {

@@ -50,6 +50,7 @@ frmNotes::frmNotes(Program& program, QWidget* parent) : QDockWidget(parent), pro
   column->addWidget(txtNotes_, 1);
   column->addWidget(buildButtons(body));
   setWidget(body);
+  setFocusProxy(txtNotes_);
   connect(txtNotes_->document(), &QTextDocument::contentsChanged, this, &frmNotes::store);
   follow(nullptr);
 }
