@@ -36,8 +36,10 @@ std::string HtmlTableOf(const std::vector<Row>& rows, bool headingRow) {
     if (rows[r].size() == 1 && width > 1)
       html += "<th colspan=\"" + std::to_string(width) + "\" align=\"left\">" + HtmlEscaped(rows[r][0]) + "</th>";
     else
-      for (std::size_t c = 0; c < rows[r].size(); ++c)
-        html += Cell((headingRow && r == 0) || c == 0 ? "th" : "td", rows[r][c]);
+      for (std::size_t c = 0; c < rows[r].size(); ++c) {
+        const bool heading = (headingRow && r == 0) || c == 0;
+        html += heading ? "<th align=\"left\">" + HtmlEscaped(rows[r][c]) + "</th>" : Cell("td", rows[r][c]);
+      }
     html += "</tr>";
   }
   return html + "</table>";

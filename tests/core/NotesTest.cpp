@@ -66,9 +66,9 @@ TEST(NotesTest, TheScenarioSectionShowsTheInputsOfEachRecordInTheUsersLanguage) 
   scenarios.Add(baseline);
   const std::string html = ScenarioInputsHtml(scenarios, strings);
   EXPECT_NE(html.find("<h2>Fire &lt;&amp;&gt; &quot;drought&quot;</h2>"), std::string::npos) << html;
-  EXPECT_NE(html.find("<th>" + strings.text(9) + "</th><td>1234</td>"), std::string::npos);
-  EXPECT_NE(html.find("<th>" + strings.text(508) + "</th><td>"), std::string::npos) << "a rate by population";
-  EXPECT_NE(html.find("<th>Population 1</th>"), std::string::npos) << "the population's label as stored";
+  EXPECT_NE(html.find(">" + strings.text(9) + "</th><td>1234</td>"), std::string::npos);
+  EXPECT_NE(html.find(">" + strings.text(508) + "</th><td>"), std::string::npos) << "a rate by population";
+  EXPECT_NE(html.find(">Population 1</th>"), std::string::npos) << "the population's label as stored";
 }
 
 }  // namespace

@@ -179,13 +179,16 @@ class NotesAndReportTest : public QObject {
     Find<QPushButton>(project, "cmdReport")->click();
     auto* report = Find<frmReport>(&frame);
     QCOMPARE(report->path(), folder.filePath("Koalas_report.rtf"));
+    QVERIFY(!report->isWindowModified());
     auto* editor = Find<QTextEdit>(report, "txtReport");
     QTest::keyClicks(editor, "Koalas: what we found");
+    QVERIFY(report->isWindowModified());
     QTest::keyClick(editor, Qt::Key_Return);
     report->insertScenarios();
     Find<QPushButton>(project->results(), "cmdMakeGraph")->click();
     report->insertGraph();
     QVERIFY(report->save());
+    QVERIFY(!report->isWindowModified());
     QVERIFY(ReadFile(report->path()).contains("data:image/png;base64,"));
     CloseReport(report);
 

@@ -79,7 +79,8 @@ frmReport::frmReport(Program& program, frmProject& project, QWidget* parent)
   column->addWidget(buildCommands());
   column->addWidget(new FormatBar(*txtReport_, [this](int number) { return text(number); }, this));
   column->addWidget(txtReport_, 1);
-  connect(txtReport_->document(), &QTextDocument::modificationChanged, this, &QWidget::setWindowModified);
+  // The editor's own signal: loading may give it a new document.
+  connect(txtReport_, &QTextEdit::textChanged, this, [this] { setWindowModified(document()->isModified()); });
   load();
 }
 
@@ -259,7 +260,10 @@ void frmReport::insertGraph() {
   txtReport_->textCursor().insertImage(name);
 }
 
-void frmReport::refreshCaption() { setWindowTitle(text(kTitle) + " - " + path_ + "[*]"); }
+void frmReport::refreshCaption() {
+  setWindowTitle(text(kTitle) + " - " + path_ + "[*]");
+  setWindowModified(document()->isModified());
+}
 
 void frmReport::closeEvent(QCloseEvent* event) {
   if (document()->isModified()) {
