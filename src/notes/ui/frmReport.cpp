@@ -52,8 +52,8 @@ constexpr int kSaveBeforeClosing = 9192;
 constexpr int kNotRead = 9193;
 constexpr int kCannotPrint = 9194;
 
-// A graph made on a tab never shown has no size of its own yet.
-constexpr QSize kGraphSize(800, 500);
+// A graph fits the width of a printed page.
+constexpr QSize kGraphSize(680, 425);
 
 // The picture inside the report's one file: its name is its own data.
 QString DataUrl(const QImage& image) {
@@ -250,11 +250,15 @@ void frmReport::insertSummaryTable() {
   if (table != nullptr) txtReport_->textCursor().insertHtml(QString::fromStdString(tamsic::SummaryTableHtml(*table)));
 }
 
+// The graph is drawn afresh at the size of a printed page's width, so its
+// words are as large as on screen; the view then gets its own size back.
 void frmReport::insertGraph() {
   QChartView* view = project_ ? project_->results()->graph() : nullptr;
   if (view == nullptr) return;
-  if (!view->isVisible()) view->resize(kGraphSize);
+  const QSize shown = view->size();
+  view->resize(kGraphSize);
   const QImage image = view->grab().toImage();
+  view->resize(shown);
   const QString name = DataUrl(image);
   document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
   txtReport_->textCursor().insertImage(name);
