@@ -89,7 +89,9 @@ const std::map<int, std::string>& Table() {
       {9186, "These pasted values were refused and not stored:"},
       {9187, "These pasted values were stored; please check them:"},
       {9188, "Cells not listed here: "},
-      {9189, "The report file is a Rich Text (RTF) document written by another program, which Tamsic cannot read. The file stays as it is: the report opens empty, and saving it asks before replacing the file."},
+      {9189,
+       "The report file is a Rich Text (RTF) document written by another program, which Tamsic cannot read."
+       " The file stays as it is: the report opens empty, and saving it asks before replacing the file."},
       {9190, "Replace this Rich Text (RTF) document with the report? What it holds now will be lost."},
       {9191, "The report could not be saved; its file keeps what it held before."},
       {9192, "Save the changes to the project report before closing it?"},

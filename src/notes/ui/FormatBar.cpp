@@ -34,7 +34,8 @@ FormatBar::FormatBar(QTextEdit& editor, const std::function<QString(int)>& text,
   for (QAction* shortcut : {bold_, italic_, underline_}) shortcut->setShortcutContext(Qt::WidgetShortcut);
   editor_.addActions({bold_, italic_, underline_});
 
-  connect(bold_, &QAction::triggered, this, [this](bool on) { editor_.setFontWeight(on ? QFont::Bold : QFont::Normal); });
+  connect(bold_, &QAction::triggered, this,
+          [this](bool on) { editor_.setFontWeight(on ? QFont::Bold : QFont::Normal); });
   connect(italic_, &QAction::triggered, &editor_, &QTextEdit::setFontItalic);
   connect(underline_, &QAction::triggered, &editor_, &QTextEdit::setFontUnderline);
   connect(bullets_, &QAction::triggered, this, [this](bool on) { toggleList(on, QTextListFormat::ListDisc); });

@@ -101,7 +101,8 @@ void ProjectCompanions::print() {
     notes_->print();
     return;
   }
-  if (auto* report = area_.currentSubWindow() ? qobject_cast<frmReport*>(area_.currentSubWindow()->widget()) : nullptr) {
+  QMdiSubWindow* window = area_.currentSubWindow();
+  if (auto* report = window ? qobject_cast<frmReport*>(window->widget()) : nullptr) {
     report->print();
     return;
   }

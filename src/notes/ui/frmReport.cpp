@@ -271,9 +271,10 @@ void frmReport::refreshCaption() {
 
 void frmReport::closeEvent(QCloseEvent* event) {
   if (document()->isModified()) {
-    const auto answer = program_.messages.show(program_.messages.text(kSaveBeforeClosing) + "\n\n" + path_.toStdString(),
-                                               tamsic::msg::kConfirmation, tamsic::MsgIcon::Question,
-                                               tamsic::MsgButtons::YesNoCancel);
+    auto& messages = program_.messages;
+    const auto answer = messages.show(messages.text(kSaveBeforeClosing) + "\n\n" + path_.toStdString(),
+                                      tamsic::msg::kConfirmation, tamsic::MsgIcon::Question,
+                                      tamsic::MsgButtons::YesNoCancel);
     if (answer == tamsic::MsgAnswer::Cancel || (answer == tamsic::MsgAnswer::Yes && !save())) {
       event->ignore();
       return;
