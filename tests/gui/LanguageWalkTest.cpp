@@ -20,6 +20,7 @@
 #include <QChartView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -35,7 +36,10 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTextDocumentFragment>
+#include <QTextDocument>
 #include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
 #include <set>
 
 #include "GuiTestSupport.h"
@@ -52,6 +56,7 @@
 #include "functions/FunctionVariables.h"
 #include "functions/ui/frmEquation.h"
 #include "functions/ui/frmEquationPreview.h"
+#include "notes/ui/frmReport.h"
 #include "support/FakeEngine.h"
 #include "files/TextCodec.h"
 #include "pages/ui/GridView.h"
@@ -106,7 +111,8 @@ class TextWalk {
  private:
   void widget(QWidget* w) {
     const QString where = Where(w);
-    if (w->isWindow() || qobject_cast<QMdiSubWindow*>(w)) add(w->windowTitle(), where + " title");
+    if (w->isWindow() || qobject_cast<QMdiSubWindow*>(w) || qobject_cast<QDockWidget*>(w))
+      add(w->windowTitle(), where + " title");
     add(w->toolTip(), where + " tooltip");
     add(w->statusTip(), where + " status tip");
     add(w->whatsThis(), where + " what's this");
@@ -347,6 +353,18 @@ class LanguageWalkTest : public QObject {
     }
     QVERIFY(Find<QComboBox>(project, "cboPopulation")->count() == 5);
     tabs->setCurrentIndex(0);
+
+    // The notes, and the project report with the scenarios' section in it.
+    auto* toolbar = Find<QToolBar>(&frame, "tbrMain");
+    qobject_cast<QToolButton*>(toolbar->widgetForAction(Find<QAction>(&frame, "tblNotes")))->click();
+    Find<QPushButton>(project, "cmdReport")->click();
+    auto* report = Find<frmReport>(&frame, "frmReport");
+    report->insertScenarios();
+    walk.tree(&frame);
+    walk.actions(Find<QMenu>(report, "mnuInsert")->actions(), "report's insert menu");
+    walk.add(report->document()->toPlainText(), "report's scenarios");
+    report->document()->setModified(false);
+    report->parentWidget()->close();
 
     // Refused values and a questioned one, as the user meets them.
     for (int message = 0; message < 6; ++message) t.box.expect("");

@@ -30,6 +30,7 @@
 #include "files/ProjectOpen.h"
 #include "files/TextCodec.h"
 #include "model/Errors.h"
+#include "notes/ui/ProjectCompanions.h"
 #include "pages/ui/frmProject.h"
 
 namespace {
@@ -54,6 +55,7 @@ mdiMain::mdiMain(Program& program, QWidget* parent) : QMainWindow(parent), progr
   setCentralWidget(mdiArea_);
   buildMenus();
   buildToolbar();
+  buildCompanionCommands();
   wireSignals();
   rebuildRecentMenu();
   checkCurrentLanguage();
@@ -223,9 +225,34 @@ void mdiMain::buildToolbar() {
   toolbar_->addSeparator();
   add("tblHelp", 1408, ThemeIcon("help-contents", look, QStyle::SP_DialogHelpButton));
   add("tblQuickHelp", 1409, ThemeIcon("help-faq", look, QStyle::SP_TitleBarContextHelpButton));
+  toolbar_->addSeparator();
   tblEquation_ = add("tblEquation", 1411, FunctionIcon());
   toolbar_->addSeparator();
   tblRun_ = add("tblRun", 1412, ThemeIcon("media-playback-start", look, QStyle::SP_MediaPlay));
+}
+
+// File > Print below Save As, and on the toolbar Print after the clipboard and Notes before Run.
+void mdiMain::buildCompanionCommands() {
+  companions_ = new ProjectCompanions(program_, *this, *mdiArea_);
+  mniPrint_ = action("mniPrint", 9009);
+  mniPrint_->setShortcut(QKeySequence::Print);
+  mnuFile_->insertAction(mniProperties_, mniPrint_);
+  mnuFile_->insertSeparator(mniProperties_);
+  const QStyle& look = *style();
+  tblPrint_ = new QAction(ThemeIcon("document-print", look, QStyle::SP_FileDialogContentsView), text(1407), this);
+  tblPrint_->setObjectName("tblPrint");
+  tblNotes_ = new QAction(ThemeIcon("accessories-text-editor", look, QStyle::SP_FileDialogDetailedView), text(1410),
+                          this);
+  tblNotes_->setObjectName("tblNotes");
+  QAction* tblHelp = toolbar_->findChild<QAction*>("tblHelp");
+  toolbar_->insertAction(tblHelp, tblPrint_);
+  toolbar_->insertSeparator(tblHelp);
+  toolbar_->insertAction(tblEquation_, tblNotes_);
+  connect(mniPrint_, &QAction::triggered, companions_, &ProjectCompanions::print);
+}
+
+void mdiMain::wireCompanions(frmProject* window) {
+  connect(window, &frmProject::reportRequested, companions_, [this, window] { companions_->openReport(*window); });
 }
 
 void mdiMain::wireSignals() {
@@ -275,6 +302,8 @@ void mdiMain::toolbarAction(QAction* item) {
   else if (key == "tblCopy") sendKeyToFocus(Qt::Key_C);
   else if (key == "tblPaste") sendKeyToFocus(Qt::Key_V);
   else if (key == "tblRun") mniRunSim_->trigger();
+  else if (key == "tblPrint") mniPrint_->trigger();
+  else if (key == "tblNotes") companions_->showNotes();
   else if (key == "tblEquation" && activeProject()) activeProject()->editFunction();
   else if (key == "tblHelp") help_->showContents();
   else if (key == "tblQuickHelp") QWhatsThis::enterWhatsThisMode();
@@ -319,6 +348,8 @@ void mdiMain::updateCommands() {
                         mniEditName_, mniRemoveName_, mniRunSim_, tblRun_, tblEquation_})
     item->setEnabled(active != nullptr);
   undoGroup_->setActiveStack(active ? active->undoStack() : nullptr);
+  mniPrint_->setEnabled(companions_->canPrint());
+  tblPrint_->setEnabled(companions_->canPrint());
 }
 
 frmProject* mdiMain::activeProject() const {
@@ -399,6 +430,7 @@ frmProject* mdiMain::addProjectWindow(frmProject* window) {
   QMdiSubWindow* sub = mdiArea_->addSubWindow(window);
   sub->setAttribute(Qt::WA_DeleteOnClose);
   connect(window, &frmProject::saved, this, &mdiMain::projectSaved);
+  wireCompanions(window);
   // The first window takes the whole area; each further one a step down and
   // right of the last, wide enough for its contents (long translated
   // captions) as far as the frame allows.

@@ -16,6 +16,7 @@ class QMdiArea;
 class QMenu;
 class QToolBar;
 class QUndoGroup;
+class ProjectCompanions;
 class frmProject;
 
 class mdiMain : public QMainWindow {
@@ -50,6 +51,9 @@ class mdiMain : public QMainWindow {
   void buildWindowMenu();
   void buildHelpMenu();
   void buildToolbar();
+  // Print, the notes and the project report: the commands and windows of ProjectCompanions.
+  void buildCompanionCommands();
+  void wireCompanions(frmProject* window);
   void wireSignals();
   QAction* action(const char* name, int caption);
 
@@ -102,5 +106,9 @@ class mdiMain : public QMainWindow {
   HelpDesk* help_ = nullptr;
   QAction* tblSave_ = nullptr;
   QAction* tblRun_ = nullptr;
+  ProjectCompanions* companions_ = nullptr;
+  QAction* mniPrint_ = nullptr;
+  QAction* tblPrint_ = nullptr;
+  QAction* tblNotes_ = nullptr;
   QAction* tblEquation_ = nullptr;
 };

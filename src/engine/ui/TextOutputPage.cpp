@@ -151,6 +151,8 @@ QWidget* TextOutputPage::buildOtherOutputRow() {
   return row;
 }
 
+const QTextDocument* TextOutputPage::reportDocument() const { return txtReport_->document(); }
+
 void TextOutputPage::resultsChanged() {
   const int shown = std::max(0, cboScenario_->currentIndex());
   cboScenario_->clear();

@@ -19,6 +19,7 @@ class QComboBox;
 class QLineEdit;
 class QPlainTextEdit;
 class QTableWidget;
+class QTextDocument;
 
 class TextOutputPage : public QWidget {
   Q_OBJECT
@@ -33,6 +34,9 @@ class TextOutputPage : public QWidget {
   void resultsChanged();
   // The scenario whose reports are offered, counted from 1.
   void showScenario(std::size_t number);
+
+  // The report on show, for printing.
+  const QTextDocument* reportDocument() const;
 
   // The grid of the other output as CSV: a header row (the file's column
   // names, or numbers where it names none), then the records.

@@ -213,8 +213,12 @@ void InputPages::copyInputValues(int from, bool allSections) {
   undo_.push(new RecordEditCommand(*this, current_, currentPage(), std::move(before), after));
 }
 
+// Notes are no edit of the pages: they stay as the notes window last stored them.
 void InputPages::putBack(std::size_t scenario, int page, const tamsic::clsScenario& record) {
-  scenarios_.Item(scenario) = record;
+  tamsic::clsScenario& stored = scenarios_.Item(scenario);
+  tamsic::Grid notes = stored.Notes();
+  stored = record;
+  stored.SetNotes(std::move(notes));
   current_ = scenario;
   restorePages(record);
   showPage(page);

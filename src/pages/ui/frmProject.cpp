@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -28,6 +29,7 @@
 #include "files/TextCodec.h"
 #include "functions/ui/frmEquation.h"
 #include "functions/ui/frmEquationPreview.h"
+#include "notes/NoteCoding.h"
 #include "pages/StableAgeDistribution.h"
 #include "pages/ui/FlowLayout.h"
 #include "pages/ui/GridView.h"
@@ -118,7 +120,16 @@ QWidget* frmProject::buildHeader() {
   auto* flow = new FlowLayout(header, 12);
   flow->addWidget(title);
   flow->addWidget(scenarioBar_);
+  flow->addWidget(buildReportButton(header));
   return header;
+}
+
+QWidget* frmProject::buildReportButton(QWidget* parent) {
+  auto* button = new QPushButton(text(7007), parent);
+  button->setObjectName("cmdReport");
+  button->setToolTip(text(7008));
+  connect(button, &QPushButton::clicked, this, &frmProject::reportRequested);
+  return button;
 }
 
 QWidget* frmProject::buildPageArea() {
@@ -184,6 +195,9 @@ void frmProject::wireSignals() {
     const QSignalBlocker quiet(hypInput_);
     hypInput_->setCurrentRow(page);
   });
+  connect(inputPages_, &InputPages::pageShown, this, &frmProject::inputShown);
+  connect(inputPages_, &InputPages::scenarioShown, this, &frmProject::inputShown);
+  connect(scenarioBar_, &ScenarioBar::scenarioListChanged, this, &frmProject::inputShown);
 }
 
 void frmProject::undo() {
@@ -223,6 +237,36 @@ void frmProject::refreshLinks() {
     link->setFlags(available ? link->flags() | Qt::ItemIsEnabled : link->flags() & ~Qt::ItemIsEnabled);
   }
   if (!inputPages_->pageAvailable(hypInput_->currentRow())) hypInput_->setCurrentRow(0);
+}
+
+int frmProject::currentPage() const { return inputPages_->currentPage(); }
+
+QString frmProject::pageTitle(int page) const { return inputPages_->pageTitle(page); }
+
+// Notes are stored as they are typed: a save, a run, another scenario or a
+// copy of this one always finds them in the record. No undo of the pages
+// takes them back, so they keep the project changed until it is saved.
+void frmProject::setNoteCell(std::size_t scenario, int page, std::string cell) {
+  if (!tamsic::SetNoteCell(state_.document.scenarios.Item(scenario), static_cast<std::size_t>(page), std::move(cell)))
+    return;
+  state_.MarkChanged();
+  refreshCaption();
+}
+
+void frmProject::setReportLocation(std::string path) {
+  if (state_.document.reportLocation == path) return;
+  state_.document.reportLocation = std::move(path);
+  state_.MarkChanged();
+  refreshCaption();
+}
+
+QWidget* frmProject::activeView() const {
+  switch (tabs_->currentIndex()) {
+    case 0: return inputPages_->page(inputPages_->currentPage());
+    case 1: return settingsPage_;
+    case 2: return textOutput_;
+    default: return results_;
+  }
 }
 
 void frmProject::refreshCaption() {

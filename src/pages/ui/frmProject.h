@@ -64,15 +64,29 @@ class frmProject : public QWidget {
   // Set when a run is confirmed, so that result views built from earlier files are rebuilt.
   bool freshAnalysis() const { return freshAnalysis_; }
 
+  // For the notes, the report and printing: the input page on show, the
+  // notes' cells, where the report is kept, and the view on show (the input
+  // page, the project settings, the text output or the results tab).
+  int currentPage() const;
+  QString pageTitle(int page) const;
+  void setNoteCell(std::size_t scenario, int page, std::string cell);
+  void setReportLocation(std::string path);
+  QWidget* activeView() const;
+  ResultsPage* results() const { return results_; }
+
  signals:
   // The project now lives in this file under this title.
   void saved(const QString& path, const QString& title);
+  // Another scenario or input page is on show, or the scenario list changed.
+  void inputShown();
+  void reportRequested();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
   QWidget* buildHeader();
+  QWidget* buildReportButton(QWidget* parent);
   QWidget* buildPageArea();
   QWidget* buildTabs();
   void wireSignals();

@@ -70,16 +70,16 @@ ResultsPage::ResultsPage(Program& program, const tamsic::ProjectState& state,
   choices->addWidget(new QLabel(Q(program_.strings.text(1905)), this));
   choices->addWidget(cboPops_);
 
-  auto* tabs = new QTabWidget(this);
-  tabs->addTab(buildGraphTab(), Q(program_.strings.text(1902)));
-  tabs->addTab(buildTableTab(), Q(program_.strings.text(1901)));
+  tabs_ = new QTabWidget(this);
+  tabs_->addTab(buildGraphTab(), Q(program_.strings.text(1902)));
+  tabs_->addTab(buildTableTab(), Q(program_.strings.text(1901)));
   lblStatus_ = new QLabel(this);
   lblStatus_->setObjectName("lblStatus");
   lblStatus_->setWordWrap(true);
 
   auto* body = new QHBoxLayout;
   body->addLayout(choices);
-  body->addWidget(tabs, 1);
+  body->addWidget(tabs_, 1);
   auto* page = new QVBoxLayout(this);
   page->addLayout(body, 1);
   page->addWidget(lblStatus_);
@@ -171,6 +171,8 @@ QWidget* ResultsPage::buildTableTab() {
   connect(cmdCopy, &QPushButton::clicked, this, &ResultsPage::copyTable);
   return tab;
 }
+
+bool ResultsPage::graphOnShow() const { return tabs_->currentIndex() == 0; }
 
 void ResultsPage::resultsChanged() {
   loaded_.clear();

@@ -23,6 +23,7 @@ class QComboBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
+class QTabWidget;
 class QTableWidget;
 
 class ResultsPage : public QWidget {
@@ -36,6 +37,12 @@ class ResultsPage : public QWidget {
   // A run has replaced result files (or scenarios were added, renamed, removed):
   // forget every loaded file and refresh the scenario list; the shown graph/table is rebuilt.
   void resultsChanged();
+
+  // What the project report and printing take from the tab: the graph and
+  // the table last made (null before one is made), and which one is on show.
+  QChartView* graph() const { return graphShown_ ? chtResults_ : nullptr; }
+  const tamsic::Table* table() const { return tableShown_ ? &table_ : nullptr; }
+  bool graphOnShow() const;
 
   // Where an export goes (caption, proposed file name, filter); empty when
   // the user cancels. A save-file dialog, unless a test stands in for it.
@@ -76,6 +83,7 @@ class ResultsPage : public QWidget {
   bool graphShown_ = false;
   bool tableShown_ = false;
 
+  QTabWidget* tabs_ = nullptr;
   QListWidget* lstScenarios_ = nullptr;
   QComboBox* cboPops_ = nullptr;
   QComboBox* cboGraphKind_ = nullptr;
