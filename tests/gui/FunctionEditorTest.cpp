@@ -115,6 +115,10 @@ void FunctionEditorTest::buttonsInsertAtTheCaretAndOkAlwaysGivesAFunction() {
   QVERIFY(showOnEquals->isChecked());
   showOnEquals->setChecked(false);
   QCOMPARE(tamsic::ReadGlobalSettings(test.store).showEquationDialogOnEquals, 0);
+
+  // What OK gave a cell is offered again next time.
+  Click(editor, "cmdOk");
+  QCOMPARE(tamsic::FormulaHistory(test.store).Entries().front(), std::string("N AND +SQRT(K)K"));
 }
 
 void FunctionEditorTest::aRefusedFormulaIsMarkedWhereTheEngineFoundItWrong() {

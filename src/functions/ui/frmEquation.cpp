@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/HelpTopics.h"
 #include "app/ui/HelpDesk.h"
@@ -90,8 +91,8 @@ frmEquation::frmEquation(Program& program, tamsic::Engine& engine, const QString
   formulaRow->addWidget(cboEQ_, 1);
   formulaRow->addWidget(polish);
   auto* middle = new QHBoxLayout;
-  middle->addWidget(buildVariables());
-  middle->addWidget(graph_, 1);
+  middle->addWidget(buildVariables(), 2);
+  middle->addWidget(graph_, 3);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(formulaRow);
   layout->addWidget(lblAnswer_);
@@ -111,7 +112,10 @@ frmEquation::frmEquation(Program& program, tamsic::Engine& engine, const QString
     program_.settings.showEquationDialogOnEquals = on ? 1 : 0;
     tamsic::SaveSettings(program_.store, program_.settings);
   });
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::accepted, this, [this] {
+    if (!cboEQ_->currentText().trimmed().isEmpty()) history_.Remember(cboEQ_->currentText().toStdString());
+    accept();
+  });
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(buttons, &QDialogButtonBox::helpRequested, this,
           [this] { ShowHelpTopic(this, tamsic::help::kFunctionEditor); });
@@ -161,9 +165,12 @@ QWidget* frmEquation::buildVariables() {
   lstVars_ = new QListWidget(panel);
   lstVars_->setObjectName("lstVars");
   lstVars_->setToolTip(text(4002));
-  for (const tamsic::FunctionVariable& variable : tamsic::FunctionVariables())
-    lstVars_->addItem(QString::fromStdString(tamsic::ListEntry(variable)));
-  lstVars_->setMinimumWidth(lstVars_->sizeHintForColumn(0) / 2);
+  for (const tamsic::FunctionVariable& variable : tamsic::FunctionVariables()) {
+    auto* item = new QListWidgetItem(QString::fromStdString(tamsic::ListEntry(variable)), lstVars_);
+    // The longest descriptions may not fit the list's width.
+    item->setToolTip(item->text());
+  }
+  lstVars_->setMinimumWidth(std::min(lstVars_->sizeHintForColumn(0) + 24, 400));
   layout->addWidget(lstVars_);
   connect(lstVars_, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem* item) {
     const auto variable = tamsic::FunctionVariables()[static_cast<std::size_t>(lstVars_->row(item))];
