@@ -76,6 +76,11 @@ class ProjectWindowTest : public QObject {
     QCOMPARE(project->windowTitle(), "Koalas in three fragments - " + path);
     QVERIFY(QFile::exists(path + ".bak"));
     QCOMPARE(frame.openProject(path), project);
+    // A name relative to the working folder, as a file manager or a shell gives it, is the same project.
+    const QString home = QDir::currentPath();
+    QDir::setCurrent(folder.path());
+    QCOMPARE(frame.openProject("Koalas.tpj"), project);
+    QDir::setCurrent(home);
     QCOMPARE(frame.mdiArea()->subWindowList().size(), 1);
   }
 

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMdiArea>
@@ -387,7 +388,8 @@ std::optional<tamsic::OpenedProject> mdiMain::readProject(const std::string& fil
 }
 
 frmProject* mdiMain::openProject(const QString& path) {
-  const std::string file = path.toStdString();
+  // A path from the command line may be relative; saving and the recent list need the whole one.
+  const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
   // A second window on the same file would let one save over the other's work.
   for (QMdiSubWindow* window : mdiArea_->subWindowList()) {
     auto* project = qobject_cast<frmProject*>(window->widget());

@@ -140,22 +140,24 @@ QMenu* frmReport::buildInsertMenu(QWidget* parent) {
 QTextDocument* frmReport::document() const { return txtReport_->document(); }
 
 void frmReport::load() {
-  foreignFile_ = false;
+  replaceQuestion_ = 0;
   txtReport_->clear();
   const std::string file = path_.toStdString();
   if (tamsic::FileExists(file)) {
     try {
       const std::string bytes = tamsic::ReadReportFile(file);
-      foreignFile_ = tamsic::IsRtf(bytes);
       const QString contents = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-      if (foreignFile_)
+      if (tamsic::IsRtf(bytes)) {
+        replaceQuestion_ = kReplaceForeign;
         program_.messages.show(program_.messages.text(kForeignFile) + "\n\n" + file, tamsic::msg::kWarning,
                                tamsic::MsgIcon::Exclamation);
-      else if (Qt::mightBeRichText(contents))
+      } else if (Qt::mightBeRichText(contents)) {
         txtReport_->setHtml(contents);
-      else
+      } else {
         txtReport_->setPlainText(contents);
+      }
     } catch (const tamsic::FileError& error) {
+      replaceQuestion_ = kOverwrite;
       program_.messages.show(program_.messages.text(kNotRead) + "\n\n" + error.what(), tamsic::msg::kError,
                              tamsic::MsgIcon::Critical);
     }
@@ -179,8 +181,8 @@ void frmReport::reload() {
 }
 
 bool frmReport::save() {
-  if (foreignFile_ &&
-      program_.messages.show(program_.messages.text(kReplaceForeign) + "\n\n" + path_.toStdString(),
+  if (replaceQuestion_ != 0 &&
+      program_.messages.show(program_.messages.text(replaceQuestion_) + "\n\n" + path_.toStdString(),
                              tamsic::msg::kConfirmation, tamsic::MsgIcon::Question,
                              tamsic::MsgButtons::YesNo) != tamsic::MsgAnswer::Yes)
     return false;
@@ -215,7 +217,7 @@ bool frmReport::writeTo(const QString& path) {
     return false;
   }
   path_ = path;
-  foreignFile_ = false;
+  replaceQuestion_ = 0;
   document()->setModified(false);
   if (project_ != nullptr) {
     const std::string& projectFile = project_->state().FullPath();

@@ -55,7 +55,8 @@ class frmReport : public QWidget {
   Program& program_;
   QPointer<frmProject> project_;
   QString path_;
-  // The file at path_ is a Rich Text document of another program: saving asks before replacing it.
-  bool foreignFile_ = false;
+  // The message saving asks before it replaces the file at path_, which the report does not show: another
+  // program's Rich Text document, or a file that could not be read. 0 when the report holds what the file holds.
+  int replaceQuestion_ = 0;
   QTextEdit* txtReport_ = nullptr;
 };
