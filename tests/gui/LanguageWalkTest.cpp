@@ -444,7 +444,8 @@ class LanguageWalkTest : public QObject {
     std::unique_ptr<QMenu> standardMenu(Find<QLineEdit>(project, "txtProjectTitle")->createStandardContextMenu());
     walk.actions(standardMenu->actions(), "text box context menu");
 
-    const EnglishJudge judge(t.strings, static_cast<tamsic::Language>(language), NamesOf(project->state(), functionWords));
+    const EnglishJudge judge(t.strings, static_cast<tamsic::Language>(language),
+                             NamesOf(project->state(), functionWords));
     QSet<QString> english;
     for (const Seen& seen : walk.seen)
       if (const QString why = judge.englishIn(seen.text); !why.isEmpty() && !english.contains(seen.text)) {

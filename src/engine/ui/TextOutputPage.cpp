@@ -285,7 +285,8 @@ void TextOutputPage::showOtherOutput() {
     const tamsic::TableFile records = tamsic::ReadTableFile(table);
     grdOtherOutput_->setColumnCount(static_cast<int>(std::max(records.columns, records.headings.size())));
     for (std::size_t c = 0; c < records.headings.size(); ++c)
-      grdOtherOutput_->setHorizontalHeaderItem(static_cast<int>(c), new QTableWidgetItem(FromFile(records.headings[c])));
+      grdOtherOutput_->setHorizontalHeaderItem(static_cast<int>(c),
+                                               new QTableWidgetItem(FromFile(records.headings[c])));
     grdOtherOutput_->setRowCount(static_cast<int>(records.rows.size()));
     for (std::size_t r = 0; r < records.rows.size(); ++r)
       for (std::size_t c = 0; c < records.rows[r].size(); ++c)

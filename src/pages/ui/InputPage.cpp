@@ -106,7 +106,8 @@ GridView* InputPage::gridView(const char* name, tamsic::Field field) {
   };
   view->grid()->choices = [](int, int) { return QStringList{"Local", "Global"}; };
   view->grid()->takesFunctions = [field](int row, int col) {
-    return tamsic::TakesFunctions(tamsic::CellRule(field, static_cast<std::size_t>(row), static_cast<std::size_t>(col)));
+    return tamsic::TakesFunctions(
+        tamsic::CellRule(field, static_cast<std::size_t>(row), static_cast<std::size_t>(col)));
   };
   view->grid()->heading = [this](const std::string& stored) { return headings_.shown(stored); };
   connect(view, &GridView::hintChanged, this, &InputPage::hintChanged);

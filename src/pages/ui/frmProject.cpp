@@ -428,7 +428,8 @@ void frmProject::runSimulation() {
   inputPages_->commitPending();
   const auto& scenarios = state_.document.scenarios;
   QStringList names;
-  for (std::size_t n = 1; n <= scenarios.Count(); ++n) names << FromFile(scenarios.Item(n).Text(tamsic::F("txtSceneName")));
+  for (std::size_t n = 1; n <= scenarios.Count(); ++n)
+    names << FromFile(scenarios.Item(n).Text(tamsic::F("txtSceneName")));
   frmSimRun dialog(program_, names, this);
   if (dialog.exec() != QDialog::Accepted) return;
   freshAnalysis_ = true;

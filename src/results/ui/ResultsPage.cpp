@@ -211,7 +211,8 @@ void ResultsPage::refreshChoices() {
   for (const auto& entry : populationEntries_) cboPops_->addItem(Q(entry.text));
   cboPops_->setCurrentIndex(std::max(0, cboPops_->findText(pop)));
   int userVariables = 0;
-  for (std::size_t n : checked) userVariables = std::max(userVariables, tamsic::ShapeOf(scenarios.Item(n)).userVariables);
+  for (std::size_t n : checked)
+    userVariables = std::max(userVariables, tamsic::ShapeOf(scenarios.Item(n)).userVariables);
   for (const std::string& base : tamsic::BaseVariables(userVariables)) cboVars_->addItem(Q(base));
   cboVars_->setCurrentIndex(std::max(0, cboVars_->findText(variable)));
 }
