@@ -29,7 +29,8 @@ std::string ValueText(const STRange& range, double value) {
 std::vector<double> Levels(const STRange& range) {
   if (range.steps < 2) throw std::invalid_argument("a range needs at least 2 steps: " + range.name);
   std::vector<double> levels;
-  for (int k = 0; k < range.steps; ++k) levels.push_back(range.from + (range.to - range.from) * k / (range.steps - 1));
+  for (int k = 0; k < range.steps; ++k)
+    levels.push_back(range.from + (range.to - range.from) * k / (range.steps - 1));
   return levels;
 }
 
@@ -50,7 +51,8 @@ void AddVariable(STItem& item, const STRange& range, double value) {
 std::vector<int> Permutation(int n, pcg32& random) {
   std::vector<int> order(static_cast<std::size_t>(n));
   std::iota(order.begin(), order.end(), 0);
-  for (int i = n - 1; i > 0; --i) std::swap(order[static_cast<std::size_t>(i)], order[random(static_cast<std::uint32_t>(i + 1))]);
+  for (int i = n - 1; i > 0; --i)
+    std::swap(order[static_cast<std::size_t>(i)], order[random(static_cast<std::uint32_t>(i + 1))]);
   return order;
 }
 

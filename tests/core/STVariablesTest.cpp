@@ -95,7 +95,8 @@ TEST(STVariables, ValueChecksAnswerAsUsersHaveAlwaysReadThem) {
   EXPECT_EQ(check("K_Pop1", "=B+B"), "OK");
   EXPECT_EQ(engine.formulas.back(), "=50.5+B");
   engine.judge = [](const std::string&) { return std::string("Error: ) expected at character 8"); };
-  EXPECT_EQ(check("K_Pop1", "=(B*1.1"), "There is an error in the function '=(B*1.1': Error: ) expected at character 8");
+  EXPECT_EQ(check("K_Pop1", "=(B*1.1"),
+            "There is an error in the function '=(B*1.1': Error: ) expected at character 8");
   engine.judge = [](const std::string&) { return std::string("polish: B 2 *"); };
   EXPECT_EQ(check("K_Pop1", "=B*2"), "OK") << "the engine's answer is compared without case";
   EXPECT_EQ(check("MaxAgeRepro", "=B"), "A function cannot be assigned to MaxAgeRepro.");
