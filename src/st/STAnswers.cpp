@@ -19,9 +19,7 @@ std::string_view After(std::string_view answer, const Text& text) { return answe
 }  // namespace
 
 std::string LocalizedSTAnswer(std::string_view answer, const IStringTable& strings) {
-  for (const Text& text : {kUseEquals, kNumeric, kNumericOrFunction, kPercent, kCorrelation, kTrueFalse, kInteger,
-                           kAboveZero, kAtLeastZero, kBelowBaseline, kNonNegativeInteger, kGlobalLocal,
-                           kNoVariables})
+  for (const Text& text : kAll)
     if (answer == text.english) return In(strings, text);
   if (Starts(answer, kNoFunction) && answer.ends_with('.'))
     return In(strings, kNoFunction) + std::string(After(answer, kNoFunction));

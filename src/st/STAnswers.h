@@ -42,10 +42,11 @@ inline constexpr Text kBaselineIsST{8638, "The baseline is itself a sensitivity-
 inline constexpr Text kNoVariables{8639, "The item changes no variable."};
 inline constexpr Text kNotAVariable{8640, "Not a variable of the baseline scenario: "};
 
-inline constexpr Text kAll[] = {kUseEquals, kNoFunction,    kFunctionError, kFunctionReason,     kNumeric,
-                                kNumericOrFunction, kPercent, kCorrelation, kTrueFalse,          kInteger,
-                                kAboveZero,         kAtLeastZero, kBelowBaseline, kNonNegativeInteger, kGlobalLocal,
-                                kNoBaseline,        kBaselineIsST, kNoVariables, kNotAVariable};
+inline constexpr Text kAll[] = {kUseEquals,     kNoFunction,         kFunctionError, kFunctionReason,
+                                kNumeric,       kNumericOrFunction,  kPercent,       kCorrelation,
+                                kTrueFalse,     kInteger,            kAboveZero,     kAtLeastZero,
+                                kBelowBaseline, kNonNegativeInteger, kGlobalLocal,   kNoBaseline,
+                                kBaselineIsST,  kNoVariables,        kNotAVariable};
 
 }  // namespace sttext
 
