@@ -3,6 +3,8 @@
 //   tamsic-cli resave IN.tpj OUT.tpj  load a project and save it again
 //   tamsic-cli run FILE.tpj [--scenario NAME]... [--seed N] [--threads N]
 //                                   simulate scenarios (all when none is named)
+//   tamsic-cli st FILE.tpj [--out OUT.tpj]
+//                                   generate the sensitivity-test scenarios
 // Every failure ends with the program's message on stderr and exit code 1;
 // a command line that cannot be understood ends with exit code 2.
 #include <CLI/CLI.hpp>
@@ -10,6 +12,7 @@
 #include <iostream>
 
 #include "RunCommand.h"
+#include "STCommand.h"
 #include "StderrMessageBox.h"
 #include "app/EnglishMessages.h"
 #include "files/ProjectFile.h"
@@ -89,6 +92,11 @@ int Run(int argc, char** argv) {
   simulate->add_option("--scenario", run.scenarios, "Scenario to run (repeatable; default: all)");
   auto* seedOption = simulate->add_option("--seed", seed, "Random seed, for repeatable results");
   simulate->add_option("--threads", run.threads, "Threads to use (default: every core)")->check(CLI::NonNegativeNumber);
+  STArguments st;
+  auto* generate = app.add_subcommand("st", "Check the sensitivity-test scheme and write the project with its "
+                                            "ST scenarios generated, one per item");
+  generate->add_option("FILE", st.project, "Project file (.tpj)")->required();
+  generate->add_option("--out", st.out, "Project file to write (default: FILE, its earlier version kept as a backup)");
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -97,6 +105,10 @@ int Run(int argc, char** argv) {
     return printed == 0 ? 0 : kUsageError;
   }
   if (*info) return Info(file);
+  if (*generate) {
+    Session session;
+    return GenerateSTCommand(st, session.messages, session.box);
+  }
   if (*simulate) {
     if (*seedOption) run.seed = seed;
     Session session;

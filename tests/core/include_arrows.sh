@@ -2,7 +2,9 @@
 # The core's includes run one way, so that each part builds on the parts below
 # it and the engine library needs only the small core library:
 #   model <- st <- files: model includes only model, st only model and st,
-#     files only model, st and files;
+#     files only model, st and files; the sensitivity tests' value check also
+#     asks the engine's formula test, through the call interface
+#     engine/Engine.h, which includes nothing of the core;
 #   the engine binding (src/engine) includes nothing of the application
 #     (src/app), and the engine library nothing of the core but model, st and
 #     files, which tamsic_project holds;
@@ -26,17 +28,19 @@ refuse() {
   fi
 }
 
-# only WHY ALLOWED FOLDER: includes of a core folder other than ALLOWED are wrong.
+# only WHY ALLOWED FOLDER [HEADER]: includes of a core folder other than
+# ALLOWED (and the one HEADER) are wrong.
 only() {
-  why="$1"; allowed="$2"; folder="$3"
-  wrong=$(includes "$folder" | grep -vE "#include +\"($allowed)/")
+  why="$1"; allowed="$2"; folder="$3"; header="${4:-}"
+  wrong=$(includes "$folder" | grep -vE "#include +\"($allowed)/" | grep -vF "#include \"$header\"")
   if [ -n "$wrong" ]; then
     echo "$why:"; echo "$wrong"; found=1
   fi
 }
 
 only "model includes only model" 'model' "src/model"
-only "st includes only model and st" 'model|st' "src/st"
+only "st includes only model, st and the engine's call interface" 'model|st' "src/st" "engine/Engine.h"
+only "the engine's call interface includes nothing of the core" 'none' "src/engine/Engine.h"
 only "files includes only model, st and files" 'model|st|files' "src/files"
 refuse "the engine binding includes nothing of the application" 'app/' "src/engine"
 refuse "the engine library includes of the core only model, st and files" '(app|engine|functions|pages|results)/' "libtamsic"

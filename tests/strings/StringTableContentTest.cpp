@@ -9,6 +9,7 @@
 
 #include "app/EnglishMessages.h"
 #include "app/StringTable.h"
+#include "st/STAnswers.h"
 
 namespace tamsic {
 namespace {
@@ -70,6 +71,17 @@ TEST(ShippedStrings, MessageBoxTextsAgreeWithTheBuiltInEnglish) {
   EXPECT_NE(English(9171), "");
   EXPECT_EQ(English(9112) + "x.out" + English(9113) + "Baseline",
             "The file 'x.out' does not exist.  You probably have not run 'Baseline");
+}
+
+// The sensitivity-test checks answer in built-in English, which the table
+// must hold word for word to translate them.
+TEST(ShippedStrings, SensitivityTestAnswersAgreeWithTheChecks) {
+  for (const sttext::Text& text : sttext::kAll) EXPECT_EQ(English(text.number), text.english) << text.number;
+  EXPECT_EQ(LocalizedSTAnswer("A function cannot be assigned to MaxAgeRepro.", In(Language::German)),
+            "Dieser Variablen kann keine Funktion zugewiesen werden: MaxAgeRepro.");
+  EXPECT_EQ(LocalizedSTAnswer("SexRatio: There is an error in the function '=B*(2': Error: ) expected",
+                              In(Language::Portuguese)),
+            "SexRatio: A função '=B*(2' contém um erro: Error: ) expected");
 }
 
 // Pieces that are joined with numbers and names, where a lost or doubled
