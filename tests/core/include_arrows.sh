@@ -2,7 +2,9 @@
 # The core's includes run one way, so that each part builds on the parts below
 # it and the engine library needs only the small core library:
 #   model <- st <- files: model includes only model, st only model and st,
-#     files only model, st and files;
+#     files only model, st and files; the analysis of an ST scheme's results
+#     (src/st/STAnalysis*) reads result files and asks the engine, so it sits
+#     above files, engine, functions and results, and below the windows;
 #   the engine binding (src/engine) includes nothing of the application
 #     (src/app), and the engine library nothing of the core but model, st and
 #     files, which tamsic_project holds;
@@ -26,17 +28,20 @@ refuse() {
   fi
 }
 
-# only WHY ALLOWED FOLDER: includes of a core folder other than ALLOWED are wrong.
+# only WHY ALLOWED FOLDER [EXCEPT]: includes of a core folder other than ALLOWED
+# are wrong, in files whose path does not start with EXCEPT.
 only() {
-  why="$1"; allowed="$2"; folder="$3"
-  wrong=$(includes "$folder" | grep -vE "#include +\"($allowed)/")
+  why="$1"; allowed="$2"; folder="$3"; except="${4:-}"
+  wrong=$(includes "$folder" | grep -vE "#include +\"($allowed)/" | { [ -n "$except" ] && grep -v "^$except" || cat; })
   if [ -n "$wrong" ]; then
     echo "$why:"; echo "$wrong"; found=1
   fi
 }
 
 only "model includes only model" 'model' "src/model"
-only "st includes only model and st" 'model|st' "src/st"
+only "st includes only model and st" 'model|st' "src/st" "src/st/STAnalysis"
+refuse "the ST analysis includes nothing of the application, the pages or the notes" '(app|pages|notes)/' \
+  src/st/STAnalysis*
 only "files includes only model, st and files" 'model|st|files' "src/files"
 refuse "the engine binding includes nothing of the application" 'app/' "src/engine"
 refuse "the engine library includes of the core only model, st and files" '(app|engine|functions|pages|results)/' "libtamsic"
