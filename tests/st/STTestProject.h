@@ -1,8 +1,8 @@
 #pragma once
 // Sensitivity tests made by hand for the analysis tests: the koala example
 // shortened to five years, ST scenarios copied from its baseline with an
-// input changed and an item describing the change, and yearly data files
-// in the engine's layout whose values the test chooses.
+// item describing each, and yearly data files in the engine's layout whose
+// values the test chooses.
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -43,15 +43,14 @@ inline tamsic::ProjectState KoalaProject(const std::filesystem::path& folder) {
   return state;
 }
 
-// Appends an ST scenario copied from the baseline (scenario 1), changed by
-// `edit`, and the item that describes it.
+// Appends an ST scenario copied from the baseline (scenario 1) and the item
+// that describes it. The analysis reads the item's values and the
+// scenario's results, so the copy's inputs stay the baseline's.
 inline void AddItem(tamsic::ProjectState& state, const std::string& label,
-                    std::vector<std::pair<std::string, std::string>> varied,
-                    const std::function<void(tamsic::clsScenario&)>& edit = {}) {
+                    std::vector<std::pair<std::string, std::string>> varied) {
   auto& document = state.document;
   tamsic::clsScenario scenario = document.scenarios.Item(1);
   scenario.SetText(tamsic::F("txtSceneName"), "ST." + std::to_string(document.stScheme.NumItems + 1));
-  if (edit) edit(scenario);
   document.scenarios.Add(std::move(scenario));
   tamsic::STItem item;
   item.ScenarioIndex = 1;
@@ -77,7 +76,8 @@ inline void WriteDat(const tamsic::ProjectState& state, const std::string& scena
       for (int f = 0; f < kFields; ++f) {
         char number[32];
         std::snprintf(number, sizeof number, "%.10g", value(b, y, f));
-        text += (f ? ";" : "") + std::string(number);
+        if (f > 0) text += ';';
+        text += number;
       }
       text += "\r\n";
     }

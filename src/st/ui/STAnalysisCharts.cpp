@@ -28,6 +28,8 @@ QChart* BarChart(const tamsic::STView& view) {
   auto* xAxis = new QBarCategoryAxis(chart);
   xAxis->append(categories);
   xAxis->setTitleText(Q(view.xTitle));
+  // Upright, the labels of many items keep their words.
+  if (categories.size() > 4) xAxis->setLabelsAngle(-90);
   auto* yAxis = new QValueAxis(chart);
   yAxis->setTitleText(Q(view.yTitle));
   chart->addAxis(xAxis, Qt::AlignBottom);

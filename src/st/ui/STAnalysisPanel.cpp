@@ -70,7 +70,7 @@ STAnalysisPanel::STAnalysisPanel(Program& program, tamsic::Engine& engine, QWidg
   lstMissing_ = new QListWidget(this);
   lstMissing_->setObjectName("lstMissing");
   lstMissing_->setToolTip(Q(program_.strings.text(8686)));
-  lstMissing_->setMaximumHeight(fontMetrics().height() * 6);
+  lstMissing_->setMaximumHeight(fontMetrics().height() * 5);
 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(buildChoices());
@@ -159,13 +159,13 @@ void STAnalysisPanel::setProject(const tamsic::ProjectState& state, const tamsic
   refresh();
 }
 
-// Keeps the variable and population chosen before, by text; the year goes
-// to the last of the new results.
+// Keeps the variable and population chosen before, by text; at first N[extant]
+// of the whole system. The year goes to the last of the new results.
 void STAnalysisPanel::fillChoices() {
   const QSignalBlocker blockVars(cboVars_);
   const QSignalBlocker blockYears(cboYears_);
   const QSignalBlocker blockPops(cboPops_);
-  const QString variable = cboVars_->currentText();
+  const QString variable = cboVars_->count() > 0 ? cboVars_->currentText() : Q(tamsic::STResultChoice().variable);
   const QString population = cboPops_->currentText();
   cboVars_->clear();
   for (const std::string& base : tamsic::BaseVariables(analysis_.userVariables)) cboVars_->addItem(Q(base));
@@ -175,7 +175,8 @@ void STAnalysisPanel::fillChoices() {
   cboYears_->setCurrentIndex(analysis_.years);
   cboPops_->clear();
   for (const tamsic::PopulationEntry& entry : analysis_.populations) cboPops_->addItem(Q(entry.text));
-  cboPops_->setCurrentIndex(std::max(0, cboPops_->findText(population)));
+  const int found = cboPops_->findText(population);
+  cboPops_->setCurrentIndex(found >= 0 ? found : cboPops_->count() - 1);
 }
 
 tamsic::STResultChoice STAnalysisPanel::choice() const {
@@ -197,8 +198,8 @@ void STAnalysisPanel::refresh() {
     cboVarMod_->setCurrentIndex(tamsic::kMean);
   }
   const tamsic::STResultChoice chosen = choice();
-  view_ = tamsic::BuildSTView(analysis_, chosen, static_cast<tamsic::STGrouping>(std::max(0, cboGroup_->currentIndex())),
-                              program_.strings);
+  const auto grouping = static_cast<tamsic::STGrouping>(std::max(0, cboGroup_->currentIndex()));
+  view_ = tamsic::BuildSTView(analysis_, chosen, grouping, program_.strings);
   showTable();
   QChart* old = chtGraph_->chart();
   chtGraph_->setChart(MakeSTChart(view_));
@@ -217,8 +218,14 @@ void STAnalysisPanel::showTable() {
   grdTable_->setHorizontalHeaderLabels(headings);
   for (int r = 0; r < grdTable_->rowCount(); ++r) {
     grdTable_->setItem(r, 0, new QTableWidgetItem(Q(table.rows[r].heading)));
-    for (std::size_t c = 0; c < table.rows[r].cells.size(); ++c)
-      grdTable_->setItem(r, static_cast<int>(c) + 1, new QTableWidgetItem(Q(table.rows[r].cells[c])));
+    for (std::size_t c = 0; c < table.rows[r].cells.size(); ++c) {
+      auto* item = new QTableWidgetItem(Q(table.rows[r].cells[c]));
+      // Numbers line up on the right.
+      bool number = false;
+      item->text().toDouble(&number);
+      if (number) item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      grdTable_->setItem(r, static_cast<int>(c) + 1, item);
+    }
   }
   grdTable_->resizeColumnsToContents();
 }
