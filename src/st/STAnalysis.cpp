@@ -79,6 +79,34 @@ std::vector<PopulationEntry> Populations(const clsScenario& scenario, const IStr
   return entries;
 }
 
+// An item's values, and the results of the ST scenario at `position` (0: none).
+STItemResults ReadItem(const ProjectState& state, const STItem& item, std::size_t number, std::size_t position,
+                       ValueReader& read) {
+  const ScenarioCollection& scenarios = state.document.scenarios;
+  STItemResults results;
+  results.item = number;
+  results.label = Cp1252ToUtf8(item.Label);
+  if (item.ScenarioIndex >= 1 && static_cast<std::size_t>(item.ScenarioIndex) <= scenarios.Count())
+    results.baseline = static_cast<std::size_t>(item.ScenarioIndex);
+  for (std::size_t j = 0; j < item.Vars.size() && j < item.Vals.size(); ++j) {
+    std::optional<std::string> baseline;
+    if (results.baseline != 0) baseline = STInputText(scenarios.Item(results.baseline), item.Vars[j]);
+    results.values.push_back({item.Vars[j], item.Vals[j], read(item.Vals[j], baseline)});
+  }
+  if (position == 0 || !Trim(scenarios.Item(position).Text(F("txtSceneName"))).starts_with("ST.")) {
+    results.missing = STMissing::NoScenario;
+    return results;
+  }
+  const clsScenario& scenario = scenarios.Item(position);
+  results.scenario = position;
+  results.scenarioName = NameOf(scenario);
+  Loaded loaded = Load(state, scenario);
+  results.data = std::move(loaded.data);
+  results.missing = loaded.missing;
+  results.detail = std::move(loaded.detail);
+  return results;
+}
+
 }  // namespace
 
 STAnalysisData ReadSTResults(const ProjectState& state, const STScheme& scheme, Engine& engine,
@@ -90,34 +118,17 @@ STAnalysisData ReadSTResults(const ProjectState& state, const STScheme& scheme, 
   const std::size_t items = std::min<std::size_t>(std::max<int>(0, scheme.NumItems), scheme.Items.size());
 
   for (std::size_t i = 0; i < items; ++i) {
-    const STItem& item = scheme.Items[i];
-    STItemResults results;
-    results.item = i;
-    results.label = Cp1252ToUtf8(item.Label);
-    if (item.ScenarioIndex >= 1 && static_cast<std::size_t>(item.ScenarioIndex) <= count)
-      results.baseline = static_cast<std::size_t>(item.ScenarioIndex);
-    for (std::size_t j = 0; j < item.Vars.size() && j < item.Vals.size(); ++j) {
-      std::optional<std::string> baseline;
-      if (results.baseline != 0) baseline = STInputText(scenarios.Item(results.baseline), item.Vars[j]);
-      results.values.push_back({item.Vars[j], item.Vals[j], read(item.Vals[j], baseline)});
-      if (std::find(analysis.variables.begin(), analysis.variables.end(), item.Vars[j]) == analysis.variables.end())
-        analysis.variables.push_back(item.Vars[j]);
+    const std::size_t position = count >= items ? count + 1 + i - items : 0;
+    STItemResults item = ReadItem(state, scheme.Items[i], i, position, read);
+    for (const STVariedValue& value : item.values)
+      if (std::find(analysis.variables.begin(), analysis.variables.end(), value.variable) == analysis.variables.end())
+        analysis.variables.push_back(value.variable);
+    if (item.scenario != 0) {
+      const YearlyDataShape shape = ShapeOf(scenarios.Item(item.scenario));
+      analysis.years = std::max(analysis.years, shape.years);
+      analysis.userVariables = std::max(analysis.userVariables, shape.userVariables);
     }
-    const std::size_t position = count + 1 + i - items;
-    if (count < items || !Trim(scenarios.Item(position).Text(F("txtSceneName"))).starts_with("ST.")) {
-      results.missing = STMissing::NoScenario;
-    } else {
-      const clsScenario& scenario = scenarios.Item(position);
-      results.scenario = position;
-      results.scenarioName = NameOf(scenario);
-      analysis.years = std::max(analysis.years, ShapeOf(scenario).years);
-      analysis.userVariables = std::max(analysis.userVariables, ShapeOf(scenario).userVariables);
-      Loaded loaded = Load(state, scenario);
-      results.data = std::move(loaded.data);
-      results.missing = loaded.missing;
-      results.detail = std::move(loaded.detail);
-    }
-    analysis.items.push_back(std::move(results));
+    analysis.items.push_back(std::move(item));
   }
 
   for (const STItemResults& item : analysis.items) {

@@ -10,9 +10,9 @@
 #include <algorithm>
 #include <cmath>
 
-namespace {
+#include "results/ui/NamedButton.h"
 
-QString Q(const std::string& text) { return QString::fromStdString(text); }
+namespace {
 
 QChart* BarChart(const tamsic::STView& view) {
   auto* chart = new QChart;
