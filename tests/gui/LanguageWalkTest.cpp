@@ -65,6 +65,7 @@
 #include "pages/ui/ScenarioBar.h"
 #include "pages/ui/frmProject.h"
 #include "results/ResultVariables.h"
+#include "st/ui/STAnalysisPanel.h"
 
 using namespace guitest;
 
@@ -252,8 +253,9 @@ class EnglishJudge {
 };
 
 // The project's own texts: the user wrote them, in whatever language. The
-// labels of the result variables, which the result files fix, and the
-// function language's variables and function names count as names too.
+// labels of the result variables, which the result files fix, the names of
+// the sensitivity-test variables, and the function language's variables and
+// function names count as names too.
 QStringList NamesOf(const tamsic::ProjectState& state, const QStringList& functionWords) {
   const auto text = [](const std::string& record) { return QString::fromStdString(tamsic::Cp1252ToUtf8(record)); };
   QStringList names{text(state.document.title), text(state.document.notes), QDir::home().dirName()};
@@ -263,6 +265,10 @@ QStringList NamesOf(const tamsic::ProjectState& state, const QStringList& functi
     names << QString::fromStdString(tamsic::ListEntry(variable));
   names << functionWords;
   for (const std::string& user : state.document.users) names << text(user);
+  for (const tamsic::STItem& item : state.document.stScheme.Items) {
+    names << text(item.Label);
+    for (const std::string& variable : item.Vars) names << text(variable);
+  }
   const auto& scenarios = state.document.scenarios;
   for (std::size_t n = 1; n <= scenarios.Count(); ++n) {
     const tamsic::clsScenario& scenario = scenarios.Item(n);
@@ -406,6 +412,23 @@ class LanguageWalkTest : public QObject {
         dialog->show();
         walk.tree(dialog);
       }
+    }
+    // The analysis of the sensitivity test, whose items have no ST scenarios yet.
+    {
+      tamsic::test::FakeEngine engine;
+      STAnalysisPanel analysis(t.program, engine);
+      analysis.setProject(project->state(), project->state().document.stScheme);
+      analysis.show();
+      auto* grouping = Find<QComboBox>(&analysis, "cboGroup");
+      auto* analysisTabs = Find<QTabWidget>(&analysis, "tabAnalysis");
+      for (int choice = 0; choice < grouping->count(); ++choice) {
+        grouping->setCurrentIndex(choice);
+        for (int tab = 0; tab < analysisTabs->count(); ++tab) {
+          analysisTabs->setCurrentIndex(tab);
+          walk.tree(&analysis);
+        }
+      }
+      QVERIFY(Find<QListWidget>(&analysis, "lstMissing")->count() == 3);
     }
     {
       frmNewProject dialog(t.program, &frame);
