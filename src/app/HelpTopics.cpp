@@ -29,7 +29,8 @@ constexpr std::pair<std::string_view, std::string_view> kWindows[] = {
     {"frmSpecify", "table-columns"},
     {"frmEquation", kFunctionEditor},
     {"frmEquationPreview", kFunctionPreview},
-    {"frmSTSetup", "sensitivity-testing"},
+    {"frmSTSetup", kSensitivityTesting},
+    {"frmSTDesign", kSensitivityTesting},
     {"frmHelp", kUsingHelp},
 };
 

@@ -13,6 +13,7 @@ inline constexpr char kRunDialog[] = "run-dialog";
 inline constexpr char kSpecialOptions[] = "special-options";
 inline constexpr char kFunctionEditor[] = "function-editor";
 inline constexpr char kFunctionPreview[] = "function-preview";
+inline constexpr char kSensitivityTesting[] = "sensitivity-testing";
 
 // The topic of an input page, counted from 0 in the order of the page links.
 std::string_view InputPageTopic(int page);

@@ -230,6 +230,11 @@ void mdiMain::buildToolbar() {
   tblEquation_ = add("tblEquation", 1411, FunctionIcon());
   toolbar_->addSeparator();
   tblRun_ = add("tblRun", 1412, ThemeIcon("media-playback-start", look, QStyle::SP_MediaPlay));
+  toolbar_->addSeparator();
+  // A command of its own beside the toolbar's pictures, as a button with its caption.
+  cmdST_ = toolbar_->addAction(text(9032));
+  cmdST_->setObjectName("cmdST");
+  cmdST_->setToolTip(text(9037));
 }
 
 // File > Print below Save As, and on the toolbar Print after the clipboard and Notes before Run.
@@ -306,6 +311,7 @@ void mdiMain::toolbarAction(QAction* item) {
   else if (key == "tblPrint") mniPrint_->trigger();
   else if (key == "tblNotes") companions_->showNotes();
   else if (key == "tblEquation" && activeProject()) activeProject()->editFunction();
+  else if (key == "cmdST" && activeProject()) activeProject()->editSensitivityTests();
   else if (key == "tblHelp") help_->showContents();
   else if (key == "tblQuickHelp") QWhatsThis::enterWhatsThisMode();
 }
@@ -346,7 +352,7 @@ void mdiMain::checkCurrentLanguage() {
 void mdiMain::updateCommands() {
   frmProject* active = activeProject();
   for (QAction* item : {mniCloseProject_, mniSave_, mniSaveAs_, tblSave_, mniAddName_,
-                        mniEditName_, mniRemoveName_, mniRunSim_, tblRun_, tblEquation_})
+                        mniEditName_, mniRemoveName_, mniRunSim_, tblRun_, tblEquation_, cmdST_})
     item->setEnabled(active != nullptr);
   undoGroup_->setActiveStack(active ? active->undoStack() : nullptr);
   mniPrint_->setEnabled(companions_->canPrint());

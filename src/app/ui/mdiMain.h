@@ -111,4 +111,5 @@ class mdiMain : public QMainWindow {
   QAction* tblPrint_ = nullptr;
   QAction* tblNotes_ = nullptr;
   QAction* tblEquation_ = nullptr;
+  QAction* cmdST_ = nullptr;
 };

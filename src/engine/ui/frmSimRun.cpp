@@ -78,4 +78,10 @@ void frmSimRun::confirm(const QString& mode) {
   accept();
 }
 
+void frmSimRun::check(const std::vector<std::size_t>& scenarios) {
+  for (std::size_t number : scenarios)
+    if (number >= 1 && number <= static_cast<std::size_t>(lstScenarios_->count()))
+      lstScenarios_->item(static_cast<int>(number) - 1)->setCheckState(Qt::Checked);
+}
+
 QString frmSimRun::text(int number) const { return QString::fromStdString(program_.strings.text(number)); }

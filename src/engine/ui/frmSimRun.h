@@ -4,6 +4,7 @@
 // a run mode ("", "+" or "META"); with nothing checked they do nothing. Close
 // leaves a run count of 0.
 #include <QDialog>
+#include <vector>
 
 #include "engine/RunList.h"
 
@@ -15,6 +16,9 @@ class frmSimRun : public QDialog {
   Q_OBJECT
  public:
   frmSimRun(Program& program, const QStringList& scenarios, QWidget* parent = nullptr);
+
+  // Checks these scenarios, numbered from 1 in list order.
+  void check(const std::vector<std::size_t>& scenarios);
 
   const tamsic::RunList& runList() const { return runList_; }
   const QString& runMode() const { return runMode_; }

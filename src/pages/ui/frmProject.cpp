@@ -37,6 +37,9 @@
 #include "pages/ui/InputPages.h"
 #include "pages/ui/ProjectSettingsPage.h"
 #include "pages/ui/ScenarioBar.h"
+#include "st/STGeneration.h"
+#include "st/STLocalized.h"
+#include "st/ui/frmSTSetup.h"
 #include "results/ui/ResultsPage.h"
 
 namespace {
@@ -424,13 +427,14 @@ std::optional<std::string> frmProject::deterministicValues(std::size_t number) {
 // the engine writes its files into the results folder, made the current
 // directory. The call runs on a thread of its own under a progress dialog
 // when the engine can report progress, else under the hourglass.
-void frmProject::runSimulation() {
+void frmProject::runSimulation(const std::vector<std::size_t>& preselected) {
   inputPages_->commitPending();
   const auto& scenarios = state_.document.scenarios;
   QStringList names;
   for (std::size_t n = 1; n <= scenarios.Count(); ++n)
     names << FromFile(scenarios.Item(n).Text(tamsic::F("txtSceneName")));
   frmSimRun dialog(program_, names, this);
+  dialog.check(preselected);
   if (dialog.exec() != QDialog::Accepted) return;
   freshAnalysis_ = true;
   // The summary keeps no line of an earlier run of a scenario run again; the
@@ -492,4 +496,47 @@ void frmProject::resultsChanged() {
 
 QString frmProject::text(int number) const {
   return QString::fromStdString(program_.strings.text(number));
+}
+
+void frmProject::editSensitivityTests() {
+  inputPages_->commitPending();
+  const frmSTSetup::Project project{
+      [this](const tamsic::STScheme& scheme) { return takeOverSTScheme(scheme); },
+      [this] {
+        const auto& scenarios = state_.document.scenarios;
+        std::vector<std::size_t> generated;
+        for (std::size_t n = scenarios.Count() - tamsic::CountTrailingSTScenarios(scenarios) + 1;
+             n <= scenarios.Count(); ++n)
+          generated.push_back(n);
+        runSimulation(generated);
+      }};
+  frmSTSetup window(program_, engine_, state_, project, this);
+  window.exec();
+}
+
+bool frmProject::takeOverSTScheme(const tamsic::STScheme& scheme) {
+  const auto problems = tamsic::CheckSTScheme(state_.document.scenarios, scheme, engine_);
+  if (!problems.empty()) {
+    std::string shown = program_.strings.text(8807);
+    for (const tamsic::STProblem& problem : problems)
+      shown += "\n" + tamsic::Cp1252ToUtf8(scheme.Items[static_cast<std::size_t>(problem.item)].Label) + ": " +
+               tamsic::LocalizedSTAnswer(problem.text, program_.strings);
+    program_.messages.show(shown, tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation);
+    return false;
+  }
+  const tamsic::ScenarioCollection before = state_.document.scenarios;
+  tamsic::GenerateSTScenarios(state_.document.scenarios, scheme);
+  const bool schemeChanged = !(state_.document.stScheme == scheme);
+  state_.document.stScheme = scheme;
+  if (!schemeChanged && before == state_.document.scenarios) return true;
+  // The generated scenarios are shown anew; edits before them cannot be undone across new scenario numbers.
+  undo_->clear();
+  inputPages_->reload();
+  scenarioBar_->UpdateScenarioSelector();
+  scenarioBar_->EnableDisableNav();
+  state_.MarkChanged();
+  refreshCaption();
+  resultsChanged();
+  emit inputShown();
+  return true;
 }

@@ -56,8 +56,15 @@ class frmProject : public QWidget {
   std::size_t currentScenario() const;
   void showScenario(std::size_t number);
 
-  // The run command: the run dialog, then the engine on the chosen scenarios.
-  void runSimulation();
+  // The run command: the run dialog, then the engine on the chosen scenarios;
+  // `preselected` are checked in the dialog (scenario numbers from 1).
+  void runSimulation(const std::vector<std::size_t>& preselected = {});
+
+  // The sensitivity-testing window on this project's scheme.
+  void editSensitivityTests();
+  // Takes a scheme over and replaces the "ST." scenarios at the end by the
+  // ones it makes; false when the scheme cannot make them (the user was told why).
+  bool takeOverSTScheme(const tamsic::STScheme& scheme);
   // Set while the program ends, which a project closing asks about in its own words.
   void setProgramClosing(bool closing) { programClosing_ = closing; }
 
