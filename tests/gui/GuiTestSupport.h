@@ -62,7 +62,10 @@ class ScriptedSaveDialog : public tamsic::ISaveFileDialog {
 // Empties the settings files of this test process (XDG_CONFIG_HOME is the
 // test's own folder).
 inline void ClearSettings() {
-  QDir(qEnvironmentVariable("XDG_CONFIG_HOME")).removeRecursively();
+  // Run by hand without ctest's environment, an empty name would be the working folder.
+  const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+  if (folder.isEmpty()) qFatal("XDG_CONFIG_HOME is not set: run the GUI tests through ctest");
+  QDir(folder).removeRecursively();
 }
 
 inline QSettings GlobalSettingsFile() { return QSettings("Tamsic 9.99c", "Tamsic 9.99c"); }

@@ -64,6 +64,9 @@
 #include "pages/ui/InputPages.h"
 #include "pages/ui/ScenarioBar.h"
 #include "pages/ui/frmProject.h"
+#include "st/basST.h"
+#include "st/ui/frmSTDesign.h"
+#include "st/ui/frmSTSetup.h"
 #include "results/ResultVariables.h"
 #include "st/ui/STAnalysisPanel.h"
 
@@ -273,6 +276,8 @@ QStringList NamesOf(const tamsic::ProjectState& state, const QStringList& functi
   for (std::size_t n = 1; n <= scenarios.Count(); ++n) {
     const tamsic::clsScenario& scenario = scenarios.Item(n);
     names << text(scenario.Text(tamsic::F("txtSceneName")));
+    // The names of the inputs a sensitivity test varies are keys of the project file, the same in every language.
+    for (const std::string& variable : tamsic::STVariableNames(scenario)) names << QString::fromStdString(variable);
     const tamsic::Grid& populations = scenario.GetGrid(tamsic::F("gridPopLabels"));
     for (std::size_t r = 1; r < populations.rows(); ++r) names << text(populations.at(r, 1));
     const tamsic::Grid& catastrophes = scenario.GetGrid(tamsic::F("gridCatastropheLabels"));
@@ -429,6 +434,21 @@ class LanguageWalkTest : public QObject {
         }
       }
       QVERIFY(Find<QListWidget>(&analysis, "lstMissing")->count() == 3);
+    }
+    // The sensitivity-testing window with its scheme, and its design dialog with a range in it.
+    {
+      tamsic::test::FakeEngine engine;
+      frmSTSetup window(t.program, engine, project->state(), {}, &frame);
+      window.show();
+      auto* windowTabs = Find<QTabWidget>(&window, "tabST");
+      for (int tab = 0; tab < windowTabs->count(); ++tab) {
+        windowTabs->setCurrentIndex(tab);
+        walk.tree(&window);
+      }
+      frmSTDesign design(t.program, engine, project->state().document.scenarios, {1, 2}, &frame);
+      design.show();
+      Find<QPushButton>(&design, "cmdAddVar")->click();
+      walk.tree(&design);
     }
     {
       frmNewProject dialog(t.program, &frame);

@@ -38,7 +38,7 @@
 #include "pages/ui/ProjectSettingsPage.h"
 #include "pages/ui/ScenarioBar.h"
 #include "st/STGeneration.h"
-#include "st/STLocalized.h"
+#include "st/STAnswers.h"
 #include "st/ui/frmSTSetup.h"
 #include "results/ui/ResultsPage.h"
 

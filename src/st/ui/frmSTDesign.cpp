@@ -21,7 +21,7 @@
 #include "files/TextCodec.h"
 #include "model/TextNumbers.h"
 #include "st/STDesigns.h"
-#include "st/STLocalized.h"
+#include "st/STAnswers.h"
 #include "st/basST.h"
 
 namespace {
@@ -155,9 +155,15 @@ void frmSTDesign::addRange() {
 void frmSTDesign::suggestRange(int row) {
   const auto* variable = qobject_cast<QComboBox*>(gridRanges_->cellWidget(row, 0));
   const auto value = tamsic::STBaselineValue(baseline(), variable->currentText().toStdString());
-  const std::optional<double> number = value ? Number(QString::fromStdString(*value)) : std::nullopt;
-  gridRanges_->item(row, 1)->setText(number ? Shown(*number * 0.8) : QString());
-  gridRanges_->item(row, 2)->setText(number ? Shown(*number * 1.2) : QString());
+  QString low, high;
+  if (value) {
+    if (const std::optional<double> number = Number(QString::fromStdString(*value))) {
+      low = Shown(*number * 0.8);
+      high = Shown(*number * 1.2);
+    }
+  }
+  gridRanges_->item(row, 1)->setText(low);
+  gridRanges_->item(row, 2)->setText(high);
 }
 
 void frmSTDesign::removeRange() {

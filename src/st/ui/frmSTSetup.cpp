@@ -16,7 +16,7 @@
 #include "app/ui/Program.h"
 #include "files/TextCodec.h"
 #include "st/STGeneration.h"
-#include "st/STLocalized.h"
+#include "st/STAnswers.h"
 #include "st/ui/STAnalysisPanel.h"
 #include "st/ui/frmSTDesign.h"
 
@@ -60,6 +60,7 @@ frmSTSetup::frmSTSetup(Program& program, tamsic::Engine& engine, const tamsic::P
   setObjectName("frmSTSetup");
   setWindowTitle(text(8601));
   tabs_ = new QTabWidget(this);
+  tabs_->setObjectName("tabST");
   tabs_->addTab(buildItemsTab(), text(8803));
   analysis_ = new STAnalysisPanel(program_, engine_, tabs_);
   tabs_->addTab(analysis_, text(8612));
