@@ -32,21 +32,28 @@ const STVariedValue* VariedValue(const STItemResults& item, const std::string& v
   return nullptr;
 }
 
+// An item that changes only this variable, or changes every other one by the
+// same typed value (as "=B*0.9" for the breeding of each population), keeps
+// the others in step with it, so its point lies on this variable's curve.
+bool InStep(const STItemResults& item, const STVariedValue& value) {
+  return std::all_of(item.values.begin(), item.values.end(),
+                     [&value](const STVariedValue& other) { return other.typed == value.typed; });
+}
+
 STView ByLevel(const STAnalysisData& analysis, const STResultChoice& choice, const IStringTable& strings) {
   STView view;
   view.table.corner = strings.text(8657);
-  view.table.columns = {strings.text(8603), strings.text(8658)};
+  // The result before the inputs, so that it stays in sight however many inputs the items vary.
+  view.table.columns = {strings.text(8603), strings.text(8658), ResultHeading(choice)};
   for (const std::string& variable : analysis.variables) view.table.columns.push_back(Cp1252ToUtf8(variable));
-  view.table.columns.push_back(ResultHeading(choice));
   STGraphLine bars{ResultHeading(choice), {}};
   for (const STItemResults& item : analysis.items) {
-    TableRow row{std::to_string(item.item + 1), {item.label, item.scenarioName}};
+    const auto result = ResultOf(item, choice);
+    TableRow row{std::to_string(item.item + 1), {item.label, item.scenarioName, Cell(result)}};
     for (const std::string& variable : analysis.variables) {
       const STVariedValue* value = VariedValue(item, variable);
       row.cells.push_back(value ? ValueCell(*value) : std::string());
     }
-    const auto result = ResultOf(item, choice);
-    row.cells.push_back(Cell(result));
     view.table.rows.push_back(std::move(row));
     if (!result) continue;
     bars.points.push_back({static_cast<double>(item.item + 1), *result});
@@ -96,6 +103,8 @@ STView ByVariable(const STAnalysisData& analysis, const STResultChoice& choice, 
   view.table.columns = {strings.text(8605), strings.text(8603), strings.text(8658), ResultHeading(choice)};
   for (const std::string& variable : analysis.variables) {
     STGraphLine line{Cp1252ToUtf8(variable), {}};
+    for (const STItemResults& item : analysis.items)
+      if (const STVariedValue* value = VariedValue(item, variable); value && !InStep(item, *value)) line.joined = false;
     for (const VariablePoint& point : PointsOf(analysis, variable, choice, strings)) {
       view.table.rows.push_back({line.name, {point.valueText, point.label, point.scenario, Cell(point.result)}});
       if (point.value && point.result) line.points.push_back({*point.value, *point.result});

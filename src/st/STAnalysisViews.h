@@ -28,6 +28,9 @@ enum class STGrouping { ByLevel, ByVariable, ByScheme };
 struct STGraphLine {
   std::string name;
   std::vector<GraphPoint> points;
+  // False when the line's items also change other inputs each in its own way (a
+  // Latin hypercube, a factorial): the points are then a scatter, not a curve.
+  bool joined = true;
 };
 
 struct STView {

@@ -11,6 +11,7 @@
 #include <QHorizontalStackedBarSeries>
 #include <QLabel>
 #include <QLineSeries>
+#include <QXYSeries>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTableWidget>
@@ -87,18 +88,18 @@ class STAnalysisPanelTest : public QObject {
     auto* graph = Find<QChartView>(&panel, "chtGraph");
     auto* group = Find<QComboBox>(&panel, "cboGroup");
 
-    // By ST level: a bar per item with a result, the result column's value.
+    // By ST level: a bar per item with a result, the result column's value; the result comes before the inputs.
     group->setCurrentIndex(0);
     QList<QStringList> rows = Rows(*table);
     QCOMPARE(rows.size(), 8);
-    QCOMPARE(rows.front(), (QStringList{"1", "Level 1", "ST.1", "45", "300", "1750"}));
+    QCOMPARE(rows.front(), (QStringList{"1", "Level 1", "ST.1", "1750", "45", "300"}));
     const QBarSet* bars = qobject_cast<QBarSeries*>(graph->chart()->series().front())->barSets().front();
     QCOMPARE(bars->count(), 7);
-    for (int i = 0; i < bars->count(); ++i) QVERIFY(Near(bars->at(i), rows[i].back().toDouble()));
-    QCOMPARE(rows.back().back(), QString());
+    for (int i = 0; i < bars->count(); ++i) QVERIFY(Near(bars->at(i), rows[i][3].toDouble()));
+    QCOMPARE(rows.back()[3], QString());
 
     // By variable: a line per input through the rows of that input that have
-    // a number and a result, the baseline among them.
+    // a number and a result, the baseline among them; a scatter where the items change several inputs.
     group->setCurrentIndex(1);
     rows = Rows(*table);
     const auto lines = graph->chart()->series();
@@ -107,7 +108,7 @@ class STAnalysisPanelTest : public QObject {
       QList<QPointF> expected;
       for (const QStringList& row : rows)
         if (row[0] == series->name() && !row[4].isEmpty()) expected << QPointF(row[1].toDouble(), row[4].toDouble());
-      const QList<QPointF> drawn = qobject_cast<QLineSeries*>(series)->points();
+      const QList<QPointF> drawn = qobject_cast<QXYSeries*>(series)->points();
       QCOMPARE(drawn.size(), expected.size());
       for (int i = 0; i < drawn.size(); ++i)
         QVERIFY2(Near(drawn[i].x(), expected[i].x()) && Near(drawn[i].y(), expected[i].y()),

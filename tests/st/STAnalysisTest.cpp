@@ -209,6 +209,7 @@ TEST_F(STAnalysisTest, ResultsAndValuesOfHandMadeSTScenarios) {
   ASSERT_EQ(view.lines.size(), 3u);
   EXPECT_EQ(view.lines[1].points,
             (std::vector<GraphPoint>{{45, sttest::Where(3, 5, 9) + 20000}, {50, sttest::Where(3, 5, 9)}}));
+  EXPECT_TRUE(view.lines[1].joined) << "items that change the sex ratio alone lie on one curve";
 
   // The item whose input is no number stays out of the ranking, by name.
   const STRanking ranked = RankSTInputs(analysis, choice());

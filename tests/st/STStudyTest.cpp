@@ -79,4 +79,9 @@ TEST(STStudy, ALatinHypercubeRanksTheDominantInputFirst) {
   // More adult deaths, fewer koalas.
   EXPECT_LT(ranked.ranking.inputs.front().coefficient, -0.5);
   EXPECT_GT(ranked.ranking.rSquared, 0.5);
+
+  // Each sample changes all three inputs at once, so no input's points make a curve.
+  const STView view = BuildSTView(analysis, choice, STGrouping::ByVariable, strings);
+  ASSERT_EQ(view.lines.size(), 3u);
+  for (const STGraphLine& line : view.lines) EXPECT_FALSE(line.joined) << line.name;
 }

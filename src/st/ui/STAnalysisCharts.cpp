@@ -6,6 +6,7 @@
 #include <QChart>
 #include <QHorizontalStackedBarSeries>
 #include <QLineSeries>
+#include <QScatterSeries>
 #include <QValueAxis>
 #include <algorithm>
 #include <cmath>
@@ -58,10 +59,21 @@ QChart* LineChart(const tamsic::STView& view, bool itemAxis) {
   chart->addAxis(yAxis, Qt::AlignLeft);
   double xMin = 0, xMax = 1, yMin = 0, yMax = 1;
   bool first = true;
-  for (const tamsic::STGraphLine& line : view.lines) {
-    auto* series = new QLineSeries(chart);
+  for (std::size_t index = 0; index < view.lines.size(); ++index) {
+    const tamsic::STGraphLine& line = view.lines[index];
+    QXYSeries* series = nullptr;
+    if (line.joined) {
+      series = new QLineSeries(chart);
+      series->setPointsVisible(true);
+    } else {
+      auto* scatter = new QScatterSeries(chart);
+      scatter->setMarkerSize(9);
+      series = scatter;
+    }
     series->setName(Q(line.name));
-    series->setPointsVisible(true);
+    // The theme has five colours; more lines get colours of their own round the wheel.
+    if (view.lines.size() > 5)
+      series->setColor(QColor::fromHsv(static_cast<int>(360 * index / view.lines.size()), 210, 200));
     for (const tamsic::GraphPoint& point : line.points) {
       series->append(point.x, point.y);
       xMin = first ? point.x : std::min(xMin, point.x);

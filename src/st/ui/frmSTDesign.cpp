@@ -134,36 +134,50 @@ QWidget* frmSTDesign::buildRanges() {
   return panel;
 }
 
-// A new range takes the next variable of the list, from 20 % below its baseline value to 20 % above.
+// A new range takes the first variable not ranged yet whose baseline value is
+// a number that may change by 20 % either way; the user picks another at will.
 void frmSTDesign::addRange() {
   if (cboBaseline_->count() == 0) return;
+  QStringList ranged;
+  for (int r = 0; r < gridRanges_->rowCount(); ++r)
+    ranged << qobject_cast<QComboBox*>(gridRanges_->cellWidget(r, 0))->currentText();
   const int row = gridRanges_->rowCount();
   gridRanges_->setRowCount(row + 1);
   auto* variable = new QComboBox(gridRanges_);
-  for (const std::string& name : tamsic::STVariableNames(baseline())) variable->addItem(QString::fromStdString(name));
-  variable->setCurrentIndex(std::min(row, variable->count() - 1));
+  int first = -1;
+  for (const std::string& name : tamsic::STVariableNames(baseline())) {
+    const QString shown = QString::fromStdString(name);
+    if (first < 0 && !ranged.contains(shown) && suggestedRange(shown)) first = variable->count();
+    variable->addItem(shown);
+  }
+  variable->setCurrentIndex(std::max(first, 0));
   gridRanges_->setCellWidget(row, 0, variable);
   gridRanges_->setItem(row, 1, new QTableWidgetItem);
   gridRanges_->setItem(row, 2, new QTableWidgetItem);
   connect(variable, &QComboBox::currentTextChanged, this, [this, variable] {
     for (int r = 0; r < gridRanges_->rowCount(); ++r)
-      if (gridRanges_->cellWidget(r, 0) == variable) suggestRange(r);
+      if (gridRanges_->cellWidget(r, 0) == variable) showSuggestedRange(r);
   });
-  suggestRange(row);
+  showSuggestedRange(row);
 }
 
-void frmSTDesign::suggestRange(int row) {
+std::optional<std::pair<QString, QString>> frmSTDesign::suggestedRange(const QString& name) const {
+  const std::string variable = name.toStdString();
+  const auto value = tamsic::STBaselineValue(baseline(), variable);
+  if (!value) return std::nullopt;
+  const std::optional<double> number = Number(QString::fromStdString(*value));
+  if (!number || *number == 0) return std::nullopt;
+  const std::pair<QString, QString> range{Shown(*number * 0.8), Shown(*number * 1.2)};
+  for (const QString& end : {range.first, range.second})
+    if (tamsic::CheckSTValue(variable, end.toStdString(), baseline(), engine_) != kOk) return std::nullopt;
+  return range;
+}
+
+void frmSTDesign::showSuggestedRange(int row) {
   const auto* variable = qobject_cast<QComboBox*>(gridRanges_->cellWidget(row, 0));
-  const auto value = tamsic::STBaselineValue(baseline(), variable->currentText().toStdString());
-  QString low, high;
-  if (value) {
-    if (const std::optional<double> number = Number(QString::fromStdString(*value))) {
-      low = Shown(*number * 0.8);
-      high = Shown(*number * 1.2);
-    }
-  }
-  gridRanges_->item(row, 1)->setText(low);
-  gridRanges_->item(row, 2)->setText(high);
+  const auto range = suggestedRange(variable->currentText());
+  gridRanges_->item(row, 1)->setText(range ? range->first : QString());
+  gridRanges_->item(row, 2)->setText(range ? range->second : QString());
 }
 
 void frmSTDesign::removeRange() {
@@ -206,31 +220,31 @@ std::optional<std::vector<tamsic::STItem>> frmSTDesign::design() {
                     : optFactorial_->isChecked() ? count == 2 || count == 3
                                                  : count >= 1 && count <= 10;
   if (!fits) {
-      refuse(8819);
-      return std::nullopt;
-    }
+    refuse(8819);
+    return std::nullopt;
+  }
   const std::size_t total = optRange_->isChecked()       ? static_cast<std::size_t>(txtSteps_->value())
                             : optFactorial_->isChecked() ? static_cast<std::size_t>(std::pow(txtSteps_->value(), count))
                                                          : static_cast<std::size_t>(txtSamples_->value());
   if (total > kMostItems) {
-      refuse(8820);
-      return std::nullopt;
-    }
+    refuse(8820);
+    return std::nullopt;
+  }
 
   const int scenario = cboBaseline_->currentData().toInt();
-  std::vector<tamsic::STItem> items =
-      optRange_->isChecked()       ? tamsic::RangeItems(scenario, ranges.front())
-      : optFactorial_->isChecked() ? tamsic::FactorialItems(scenario, ranges)
-                                   : tamsic::LatinHypercubeItems(scenario, ranges, txtSamples_->value(),
-                                                                 static_cast<std::uint64_t>(txtSeed_->value()));
+  std::vector<tamsic::STItem> items = optRange_->isChecked() ? tamsic::RangeItems(scenario, ranges.front())
+                                      : optFactorial_->isChecked()
+                                          ? tamsic::FactorialItems(scenario, ranges)
+                                          : tamsic::LatinHypercubeItems(scenario, ranges, txtSamples_->value(),
+                                                                        static_cast<std::uint64_t>(txtSeed_->value()));
   // The design's values meet the same checks as typed ones: a range past a variable's bounds is refused here.
   for (const tamsic::STItem& item : items)
     for (std::size_t v = 0; v < item.Vars.size(); ++v)
       if (const std::string answer = tamsic::CheckSTValue(item.Vars[v], item.Vals[v], baseline(), engine_);
           answer != kOk) {
-        program_.messages.show(item.Vars[v] + " = " + item.Vals[v] + ": " +
-                                   tamsic::LocalizedSTAnswer(answer, program_.strings),
-                               tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation);
+        program_.messages.show(
+            item.Vars[v] + " = " + item.Vals[v] + ": " + tamsic::LocalizedSTAnswer(answer, program_.strings),
+            tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation);
         return std::nullopt;
       }
   return items;

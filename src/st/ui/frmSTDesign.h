@@ -4,6 +4,8 @@
 // Latin hypercube sample over up to ten. The items are ordinary ST items,
 // one variable per range in each.
 #include <QDialog>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "engine/Engine.h"
@@ -31,7 +33,9 @@ class frmSTDesign : public QDialog {
   QWidget* buildRanges();
   void addRange();
   void removeRange();
-  void suggestRange(int row);
+  // From 20 % below the baseline's value to 20 % above, when both ends pass the variable's check.
+  std::optional<std::pair<QString, QString>> suggestedRange(const QString& name) const;
+  void showSuggestedRange(int row);
   void kindChosen();
   const tamsic::clsScenario& baseline() const;
   // The design's items, or nothing when the choices do not make one (the user was told why).

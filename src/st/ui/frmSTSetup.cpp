@@ -358,7 +358,10 @@ void frmSTSetup::refreshStatus() {
   const std::size_t generated = tamsic::CountTrailingSTScenarios(state_.document.scenarios);
   const bool current = SameScheme(editor_.scheme(), state_.document.stScheme) &&
                        generated == static_cast<std::size_t>(editor_.itemCount());
-  lblStatus_->setText(current ? text(8804) + QString::number(generated) : text(8805));
+  if (current)
+    lblStatus_->setText(text(8804) + QString::number(generated));
+  else
+    lblStatus_->setText(text(generated == 0 ? 8832 : 8805));
 }
 
 QString frmSTSetup::text(int number) const { return QString::fromStdString(program_.strings.text(number)); }
