@@ -33,15 +33,26 @@ BroodTables Tables(const Model& m, const PopulationModel& p, SimContext& context
   return {Discrete(1, broods), Discrete(0, progeny)};
 }
 
+// Whether the number of broods or young depends on the mother.
+bool BroodsPerMother(const Model& m, const PopulationModel& p) {
+  const auto each = [](const Rate& r) { return r.perIndividual(); };
+  return std::any_of(m.broodPercent.begin(), m.broodPercent.end(), each) ||
+         std::any_of(m.progenyPercent.begin(), m.progenyPercent.end(), each) ||
+         (m.broodByMeanSD && (each(p.broodMean) || each(p.broodSD)));
+}
+
 // Members (by index) who take part: breeding females in `mothers`, males of the pool in `pool`.
 void Candidates(const Model& m, const PopulationModel& p, PopulationState& pop, SimContext& context,
                 World& world, std::vector<std::uint32_t>& mothers, std::vector<std::uint32_t>& pool) {
   const YearConditions& year = pop.year;
-  const bool each = p.breeding.perIndividual();
-  const double mean = each ? 0.0 : p.breeding.value(context);
-  const double shift = p.breedingSD.value(context) * year.breedingDeviate;
-  const double breeding = Percent(mean + shift) * year.reproductionFactor;
-  const double inPool = Percent(p.malesInPool.value(context));
+  const bool each = p.breeding.perIndividual() || p.breedingSD.perIndividual();
+  const bool eachMale = p.malesInPool.perIndividual();
+  auto chanceOf = [&] {
+    return Percent(p.breeding.value(context) + p.breedingSD.value(context) * year.breedingDeviate) *
+           year.reproductionFactor;
+  };
+  const double breeding = each ? 0.0 : chanceOf();
+  const double inPool = eachMale ? 0.0 : Percent(p.malesInPool.value(context));
   // Written unconditionally and kept by advancing the end: whether a draw
   // succeeds cannot be predicted, and a mispredicted branch costs more.
   mothers.resize(pop.members.size());
@@ -51,15 +62,20 @@ void Candidates(const Model& m, const PopulationModel& p, PopulationState& pop, 
     const Individual& ind = pop.members[i];
     if (ind.age < m.firstBreeding[ind.sex]) continue;
     if (ind.sex == kMale) {
+      double joins = inPool;
+      if (eachMale) {
+        context.setIndividual(&ind);
+        joins = Percent(p.malesInPool.value(context));
+      }
       pool[inBreedingPool] = i;
-      inBreedingPool += world.random.chance(inPool);
+      inBreedingPool += world.random.chance(joins);
       continue;
     }
     if (!m.sexual()) pool[inBreedingPool++] = i;
     double chance = breeding;
     if (each) {
       context.setIndividual(&ind);
-      chance = Percent(p.breeding.value(context) + shift) * year.reproductionFactor;
+      chance = chanceOf();
     }
     mothers[breeders] = i;
     breeders += world.random.chance(chance);
@@ -111,7 +127,8 @@ constexpr std::size_t kAhead = 3;
 void Births(const Model& m, const PopulationModel& p, int population, World& world, SimContext& context,
             const std::vector<std::uint32_t>& mothers, const std::vector<std::uint32_t>& sires) {
   PopulationState& pop = world.pops[static_cast<std::size_t>(population)];
-  const BroodTables tables = Tables(m, p, context);
+  const bool tablesEach = BroodsPerMother(m, p);
+  BroodTables tables = tablesEach ? BroodTables{} : Tables(m, p, context);
   const bool constantRatio = !m.sexRatio.perIndividual();
   const double maleShare = Percent(m.sexRatio.value(context));
   world.moving.clear();
@@ -127,6 +144,10 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
     if (mother.mate == 0 || m.mating == Mating::LongTermMonogamous || m.mating == Mating::LongTermPolygamous)
       mother.mate = father.id;
     if (father.mate == 0) father.mate = mother.id;
+    if (tablesEach) {
+      context.setIndividual(&mother);
+      tables = Tables(m, p, context);
+    }
     const int broods = tables.broods.draw(world.random);
     for (int b = 0; b < broods; ++b) {
       const int young = tables.progeny.draw(world.random);

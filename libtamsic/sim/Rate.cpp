@@ -22,9 +22,12 @@ bool UsesIndividual(const formula::Program& program) {
     if (program.uses(var)) return true;
   for (int n = 1; n <= 10; ++n)
     if (program.uses(formula::StateVar(Var::IS1, n))) return true;
-  // A random draw in a rate is a draw per individual.
-  return std::any_of(program.code().begin(), program.code().end(),
-                     [](const formula::Instruction& in) { return in.op == Op::Rand || in.op == Op::NRand; });
+  // A random draw in a rate is a draw per individual; VV and ZZ read the individual's alleles.
+  return std::any_of(program.code().begin(), program.code().end(), [](const formula::Instruction& in) {
+    const auto indexed = static_cast<formula::IndexedVar>(in.b);
+    return in.op == Op::Rand || in.op == Op::NRand ||
+           (in.op == Op::Indexed && (indexed == formula::IndexedVar::VV || indexed == formula::IndexedVar::ZZ));
+  });
 }
 
 bool UsesCounts(const formula::Program& program) {

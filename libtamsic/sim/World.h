@@ -61,6 +61,7 @@ struct World {
   std::vector<std::uint32_t> scratchC;
   std::vector<Individual> moving;
   std::vector<std::vector<Individual>> arrivals;  // dispersers by recipient
+  std::vector<double> destinations;              // cumulative chances of a disperser's recipients
   std::vector<std::uint32_t> alleleCounts;
 
   // The iteration's list of everyone created, when the option "N" asks for it.
