@@ -38,6 +38,8 @@ class Rate {
   // Whether the value can differ between individuals of one population.
   bool perIndividual() const { return perIndividual_; }
   bool usesPopulationCounts() const { return usesCounts_; }
+  // The compiled function; null for a number or a file reference.
+  const formula::Program* program() const { return program_.get(); }
   const std::string& where() const { return where_; }
 
   // The value in the context's population, year and individual. Throws

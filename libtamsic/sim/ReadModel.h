@@ -2,8 +2,8 @@
 // Turns a scenario record into the Model the simulation runs. Every input
 // is checked here, before any iteration starts; a fault throws SimError
 // naming the input. Genetic management (studbook, allele frequencies,
-// kinship pairing, preventing matings, breeding to K) and state variables
-// are accepted and not yet used.
+// kinship pairing, preventing matings, breeding to K) is accepted and not
+// yet used.
 #include <filesystem>
 
 #include "model/clsScenario.h"
