@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "sim/Distribution.h"
+#include "sim/StateVariables.h"
 #include "sim/Steps.h"
 
 namespace tamsic::sim {
@@ -130,6 +131,7 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
   const bool tablesEach = BroodsPerMother(m, p);
   BroodTables tables = tablesEach ? BroodTables{} : Tables(m, p, context);
   const bool constantRatio = !m.sexRatio.perIndividual();
+  const bool states = !m.individualStates.empty();
   const double maleShare = Percent(m.sexRatio.value(context));
   world.moving.clear();
   for (std::size_t f = 0; f < mothers.size(); ++f) {
@@ -173,6 +175,7 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
           share = Percent(m.sexRatio.value(context));
         }
         born.sex = m.sexual() && world.random.chance(share) ? kMale : kFemale;
+        if (states) BirthStates(m, world, context, mother, born);
         world.noteCreated(born, population, Origin::Born);
       }
     }

@@ -75,14 +75,23 @@ Rate Rate::Read(std::string_view text, double emptyValue, const std::string& whe
   return rate;
 }
 
+std::string Rate::place(const SimContext& context) const {
+  const std::string year = "year " + std::to_string(context.year());
+  if (context.global()) return where_ + ", " + year;
+  return where_ + ", population " + std::to_string(context.population() + 1) + ", " + year;
+}
+
 double Rate::value(SimContext& context) const {
   if (series_) return series_->valueForYear(context.year());
   if (!program_) return value_;
-  const double result = program_->evaluate(context);
+  double result = 0.0;
+  try {
+    result = program_->evaluate(context);
+  } catch (const SimError& fault) {
+    throw SimError(place(context) + ": " + fault.what());
+  }
   if (!std::isfinite(result))
-    throw SimError(where_ + ", population " + std::to_string(context.population() + 1) + ", year " +
-                   std::to_string(context.year()) + ": the function gives " +
-                   (std::isnan(result) ? "no number" : "an infinite value"));
+    throw SimError(place(context) + ": the function gives " + (std::isnan(result) ? "no number" : "an infinite value"));
   return result;
 }
 

@@ -43,10 +43,14 @@ class Rate {
   const std::string& where() const { return where_; }
 
   // The value in the context's population, year and individual. Throws
-  // SimError naming the input when a function gives NaN or infinity.
+  // SimError naming the input when a function gives NaN or infinity, or
+  // names what does not exist (FF(9) of a scenario with two populations).
   double value(SimContext& context) const;
 
  private:
+  // The input, population and year, for messages.
+  std::string place(const SimContext& context) const;
+
   double value_ = 0.0;
   std::shared_ptr<const formula::Program> program_;
   std::shared_ptr<const formula::FileSeries> series_;
