@@ -106,6 +106,32 @@ TEST(SimStates, AMarkThatRaisesFirstYearMortalityThinsTheMarked) {
   EXPECT_NEAR(out.blocks[0][12][kVar1], 0.4 / 1.3, 0.02);
 }
 
+TEST(SimStates, RatesOfAnIndividualReadItsOwnState) {
+  // Only marked females breed, only marked males join the breeding pool, only
+  // the marked move to the second population, which is empty and has no young.
+  SimScenario s("Rates", 2, 150, 300);
+  s.text(F("txtNumIter"), "5").text(F("txtNumYear"), "10");
+  s.everyPopulation(F("gridRepRates1"), 1, "=100*IS1").everyPopulation(F("gridDegMonop"), 1, "=100*IS1");
+  s.cell(F("gridInitPopStable"), 2, 1, "0").cell(F("gridRepRates1"), 2, 1, "0");
+  s.check(F("chkDispFemales")).check(F("chkDispMales")).cell(F("gridDispRates"), 1, 2, "=30*IS1");
+  s = WithIndividualStates(s, {{"=RAND<0.5", "=RAND<0.5", ""}, {"1", "=IIS1(DAM)*IIS1(SIRE)", ""}});
+  const RunOutput out = RunScenario({s}, "Rates", "A;SEED3");
+  ASSERT_TRUE(out.reply.starts_with("Message")) << out.reply;
+  int born = 0, moved = 0, unmarked = 0;
+  for (const auto& row : DataLines(out.living)) {
+    EXPECT_EQ(row[12], "1") << "both parents were marked";
+    born += row[3] != "0";
+    if (row[1] == "2") {
+      ++moved;
+      EXPECT_EQ(row[11], "1");
+    }
+    unmarked += row[11] == "0";
+  }
+  EXPECT_GT(born, 100);
+  EXPECT_GT(moved, 20);
+  EXPECT_GT(unmarked, 100);
+}
+
 std::string Reply(SimScenario s, Field grid, std::size_t row, std::size_t col, const std::string& value) {
   s.cell(grid, row, col, value);
   return RunScenario({s}, "Base", "SEED1").reply;
