@@ -125,13 +125,15 @@ void Pair(const Model& m, PopulationState& pop, World& world, std::vector<std::u
 // Parents' genomes are asked for a few mothers ahead of their births.
 constexpr std::size_t kAhead = 3;
 
+// kPerMother: the broods and young of each mother follow her own tables. Otherwise the tables are one
+// constant for the population, which keeps this loop as fast as it can be.
+template <bool kPerMother>
 void Births(const Model& m, const PopulationModel& p, int population, World& world, SimContext& context,
             const std::vector<std::uint32_t>& mothers, const std::vector<std::uint32_t>& sires) {
   PopulationState& pop = world.pops[static_cast<std::size_t>(population)];
-  const bool tablesEach = BroodsPerMother(m, p);
-  BroodTables tables = tablesEach ? BroodTables{} : Tables(m, p, context);
+  const BroodTables shared = kPerMother ? BroodTables{} : Tables(m, p, context);
+  BroodTables own;
   const bool constantRatio = !m.sexRatio.perIndividual();
-  const bool states = !m.individualStates.empty();
   const double maleShare = Percent(m.sexRatio.value(context));
   world.moving.clear();
   for (std::size_t f = 0; f < mothers.size(); ++f) {
@@ -146,10 +148,11 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
     if (mother.mate == 0 || m.mating == Mating::LongTermMonogamous || m.mating == Mating::LongTermPolygamous)
       mother.mate = father.id;
     if (father.mate == 0) father.mate = mother.id;
-    if (tablesEach) {
+    if constexpr (kPerMother) {
       context.setIndividual(&mother);
-      tables = Tables(m, p, context);
+      own = Tables(m, p, context);
     }
+    const BroodTables& tables = kPerMother ? own : shared;
     const int broods = tables.broods.draw(world.random);
     for (int b = 0; b < broods; ++b) {
       const int young = tables.progeny.draw(world.random);
@@ -175,11 +178,11 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
           share = Percent(m.sexRatio.value(context));
         }
         born.sex = m.sexual() && world.random.chance(share) ? kMale : kFemale;
-        if (states) BirthStates(m, world, context, mother, born);
         world.noteCreated(born, population, Origin::Born);
       }
     }
   }
+  if (!m.individualStates.empty()) BirthStates(m, world, context, world.moving);
   context.setIndividual(nullptr);
   pop.members.insert(pop.members.end(), world.moving.begin(), world.moving.end());
 }
@@ -195,7 +198,8 @@ void Breed(const Model& model, World& world, SimContext& context) {
     const PopulationModel& inputs = model.pops[static_cast<std::size_t>(p)];
     Candidates(model, inputs, pop, context, world, world.scratchA, world.scratchB);
     Pair(model, pop, world, world.scratchA, world.scratchB, sires);
-    Births(model, inputs, p, world, context, world.scratchA, sires);
+    if (BroodsPerMother(model, inputs)) Births<true>(model, inputs, p, world, context, world.scratchA, sires);
+    else Births<false>(model, inputs, p, world, context, world.scratchA, sires);
   }
 }
 

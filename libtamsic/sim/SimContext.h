@@ -49,6 +49,8 @@ class SimContext : public formula::EvalContext {
   }
   // Individuals were created: an id may name another genome slot than before.
   void individualsCreated() { ids_.invalidate(); }
+  // The genome slot of a living individual, if there is one of that id.
+  std::optional<std::uint32_t> livingSlot(std::uint32_t id) { return ids_.slotOf(world_, id); }
   int year() const { return world_.year; }
   int population() const { return pop_; }
   bool global() const { return global_; }

@@ -112,12 +112,14 @@ void StartIndividual(const Model& m, World& world, SimContext& context, const In
   context.setIndividual(nullptr);
 }
 
-void BirthStates(const Model& m, World& world, SimContext& context, const Individual& dam, const Individual& born) {
+void BirthStates(const Model& m, World& world, SimContext& context, const std::vector<Individual>& newborns) {
   const std::size_t count = IndividualCount(m);
-  double* own = world.individualStates.add(born.genome);
-  std::copy_n(world.individualStates.at(dam.genome), count, own);
-  context.setIndividual(&born);
-  for (std::size_t k = 0; k < count; ++k) own[k] = m.individualStates[k].birth.value(context);
+  for (const Individual& born : newborns) {
+    double* own = world.individualStates.add(born.genome);
+    std::copy_n(world.individualStates.at(*context.livingSlot(born.dam)), count, own);
+    context.setIndividual(&born);
+    for (std::size_t k = 0; k < count; ++k) own[k] = m.individualStates[k].birth.value(context);
+  }
 }
 
 void AdvanceStates(const Model& m, World& world, SimContext& context) {

@@ -27,9 +27,8 @@ void StartStates(const Model& model, World& world, SimContext& context);
 void StartGroupStates(const Model& model, World& world, SimContext& context);
 // A supplement, new in the context's population.
 void StartIndividual(const Model& model, World& world, SimContext& context, const Individual& individual);
-// A newborn of `dam`, in the context's population.
-void BirthStates(const Model& model, World& world, SimContext& context, const Individual& dam,
-                 const Individual& born);
+// The newborns of the context's population, not yet among its members, whose dams are.
+void BirthStates(const Model& model, World& world, SimContext& context, const std::vector<Individual>& newborns);
 // The yearly step.
 void AdvanceStates(const Model& model, World& world, SimContext& context);
 // The census of this year's population (PS) and global (GS) values, the user variables of the yearly data.
