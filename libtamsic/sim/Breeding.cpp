@@ -182,7 +182,7 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
       }
     }
   }
-  if (!m.individualStates.empty()) BirthStates(m, world, context, world.moving);
+  if (!m.individualStates.empty()) BirthStates(m, world, context, pop.members, mothers, world.moving);
   context.setIndividual(nullptr);
   pop.members.insert(pop.members.end(), world.moving.begin(), world.moving.end());
 }

@@ -81,6 +81,11 @@ std::string Rate::place(const SimContext& context) const {
   return where_ + ", population " + std::to_string(context.population() + 1) + ", " + year;
 }
 
+void Rate::checkFinite(const SimContext& context, double result) const {
+  if (!std::isfinite(result))
+    throw SimError(place(context) + ": the function gives " + (std::isnan(result) ? "no number" : "an infinite value"));
+}
+
 double Rate::value(SimContext& context) const {
   if (series_) return series_->valueForYear(context.year());
   if (!program_) return value_;
@@ -90,9 +95,21 @@ double Rate::value(SimContext& context) const {
   } catch (const SimError& fault) {
     throw SimError(place(context) + ": " + fault.what());
   }
-  if (!std::isfinite(result))
-    throw SimError(place(context) + ": the function gives " + (std::isnan(result) ? "no number" : "an infinite value"));
+  checkFinite(context, result);
   return result;
+}
+
+void Rate::values(SimContext& context, std::size_t count, double* out) const {
+  if (!program_) {
+    std::fill_n(out, count, value(context));
+    return;
+  }
+  try {
+    program_->evaluateBatch(context, count, out);
+  } catch (const SimError& fault) {
+    throw SimError(place(context) + ": " + fault.what());
+  }
+  for (std::size_t i = 0; i < count; ++i) checkFinite(context, out[i]);
 }
 
 }  // namespace tamsic::sim

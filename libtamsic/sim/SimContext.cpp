@@ -71,6 +71,15 @@ double SimContext::variable(Var var) {
   }
 }
 
+// As the general one, but without a virtual call for each item and variable.
+void SimContext::fetchBatch(const Var* vars, std::size_t count, std::size_t first, std::size_t items, double* values,
+                            std::size_t stride) {
+  for (std::size_t i = 0; i < items; ++i) {
+    select(first + i);
+    for (std::size_t v = 0; v < count; ++v) values[v * stride + i] = variable(vars[v]);
+  }
+}
+
 // The life table asks for an individual's rates without an individual: its state variables are 0 there.
 double SimContext::stateVariable(int index) const {
   const int ps = static_cast<int>(Var::PS1), gs = static_cast<int>(Var::GS1);

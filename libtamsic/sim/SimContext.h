@@ -14,7 +14,7 @@
 
 namespace tamsic::sim {
 
-class SimContext : public formula::EvalContext {
+class SimContext final : public formula::EvalContext {
  public:
   SimContext(const Model& model, World& world, std::uint64_t runSeed)
       : model_(model), world_(world), runSeed_(runSeed) {}
@@ -43,19 +43,29 @@ class SimContext : public formula::EvalContext {
     individual_ = individual;
     individualStates_ = states;
   }
+  // A batch of individuals for Rate::values: item i is members[i], whose own IS1, IS2, ... are read from
+  // states + i * stride, or from its row when `states` is null.
+  void setBatch(const Individual* members, const double* states, std::size_t stride) {
+    batch_ = members;
+    batchStates_ = states;
+    batchStride_ = stride;
+  }
+  void select(std::size_t item) override {
+    setIndividual(batch_ + item, batchStates_ ? batchStates_ + item * batchStride_ : nullptr);
+  }
   void setDispersal(double rate, int recipient) {
     dispersal_ = rate;
     recipient_ = recipient;
   }
   // Individuals were created: an id may name another genome slot than before.
   void individualsCreated() { ids_.invalidate(); }
-  // The genome slot of a living individual, if there is one of that id.
-  std::optional<std::uint32_t> livingSlot(std::uint32_t id) { return ids_.slotOf(world_, id); }
   int year() const { return world_.year; }
   int population() const { return pop_; }
   bool global() const { return global_; }
 
   double variable(formula::Var var) override;
+  void fetchBatch(const formula::Var* vars, std::size_t count, std::size_t first, std::size_t items, double* values,
+                  std::size_t stride) override;
   double indexed(formula::IndexedVar var, double argument) override;
   double kinship(double first, double second) override;
   double uniform() override { return world_.random.uniform(); }
@@ -89,6 +99,9 @@ class SimContext : public formula::EvalContext {
   const double* individualStates_ = nullptr;
   const double* populationStates_ = nullptr;
   const double* globalStates_ = nullptr;
+  const Individual* batch_ = nullptr;
+  const double* batchStates_ = nullptr;
+  std::size_t batchStride_ = 0;
   double dispersal_ = 0.0;
   int recipient_ = 0;
   IdIndex ids_;

@@ -28,24 +28,63 @@ bool AnyTransition(const Model& m) {
                      [](const IndividualStateVar& v) { return v.transition.has_value(); });
 }
 
-// Everyone's new values go to world.nextStates first and into place once all are known.
+// Whether a yearly function reads other individuals' values (IIS1(MATE), IMEAN(1) ...).
+bool TransitionsReadOthers(const Model& m) {
+  using formula::IndexedVar;
+  for (const IndividualStateVar& v : m.individualStates) {
+    const formula::Program* program = v.transition ? v.transition->program() : nullptr;
+    if (!program) continue;
+    for (const formula::Instruction& in : program->code()) {
+      const auto var = static_cast<IndexedVar>(in.b);
+      if (in.op == formula::Op::Indexed && (var >= IndexedVar::IIS1 || var == IndexedVar::IMEAN ||
+                                            var == IndexedVar::ITOT || var == IndexedVar::IMIN ||
+                                            var == IndexedVar::IMAX))
+        return true;
+    }
+  }
+  return false;
+}
+
+// The new values of a population's members, a variable at a time for all of them together, which is much
+// faster than one individual after another. `own` holds each member's row (stride: the number of
+// variables), or is null to work in the rows themselves.
+void NewValues(const Model& m, World& world, SimContext& context, int p, double* own) {
+  const std::vector<Individual>& members = world.pops[static_cast<std::size_t>(p)].members;
+  const std::size_t count = IndividualCount(m);
+  context.setPopulation(p);
+  context.setBatch(members.data(), own, count);
+  std::vector<double>& column = world.stateColumn;
+  column.resize(members.size());
+  for (std::size_t k = 0; k < count; ++k) {
+    const auto& transition = m.individualStates[k].transition;
+    if (!transition) continue;
+    transition->values(context, members.size(), column.data());
+    for (std::size_t i = 0; i < members.size(); ++i)
+      (own ? own + i * count : world.individualStates.at(members[i].genome))[k] = column[i];
+  }
+}
+
+// When the yearly functions read other individuals, everyone's new values go to world.nextStates first and
+// into place once all are known; otherwise nobody can tell the difference, and they go into place at once.
 void Transitions(const Model& m, World& world, SimContext& context) {
   if (!AnyTransition(m)) return;
+  if (!TransitionsReadOthers(m)) {
+    for (int p = 0; p < m.populations; ++p) NewValues(m, world, context, p, nullptr);
+    context.setIndividual(nullptr);
+    return;
+  }
   const std::size_t count = IndividualCount(m);
   std::size_t living = 0;
   for (const PopulationState& pop : world.pops) living += pop.members.size();
   std::vector<double>& next = world.nextStates;
   next.resize(living * count);
   double* own = next.data();
+  for (const PopulationState& pop : world.pops)
+    for (const Individual& ind : pop.members) own = std::copy_n(world.individualStates.at(ind.genome), count, own);
+  own = next.data();
   for (int p = 0; p < m.populations; ++p) {
-    context.setPopulation(p);
-    for (const Individual& ind : world.pops[static_cast<std::size_t>(p)].members) {
-      std::copy_n(world.individualStates.at(ind.genome), count, own);
-      context.setIndividual(&ind, own);
-      for (std::size_t k = 0; k < count; ++k)
-        if (const auto& transition = m.individualStates[k].transition) own[k] = transition->value(context);
-      own += count;
-    }
+    NewValues(m, world, context, p, own);
+    own += world.pops[static_cast<std::size_t>(p)].members.size() * count;
   }
   const double* done = next.data();
   for (const PopulationState& pop : world.pops)
@@ -112,13 +151,21 @@ void StartIndividual(const Model& m, World& world, SimContext& context, const In
   context.setIndividual(nullptr);
 }
 
-void BirthStates(const Model& m, World& world, SimContext& context, const std::vector<Individual>& newborns) {
+void BirthStates(const Model& m, World& world, SimContext& context, const std::vector<Individual>& members,
+                 const std::vector<std::uint32_t>& mothers, const std::vector<Individual>& newborns) {
   const std::size_t count = IndividualCount(m);
+  std::size_t f = 0;
   for (const Individual& born : newborns) {
+    while (members[mothers[f]].id != born.dam) ++f;
     double* own = world.individualStates.add(born.genome);
-    std::copy_n(world.individualStates.at(*context.livingSlot(born.dam)), count, own);
-    context.setIndividual(&born);
-    for (std::size_t k = 0; k < count; ++k) own[k] = m.individualStates[k].birth.value(context);
+    std::copy_n(world.individualStates.at(members[mothers[f]].genome), count, own);
+  }
+  context.setBatch(newborns.data(), nullptr, 0);
+  std::vector<double>& column = world.stateColumn;
+  column.resize(newborns.size());
+  for (std::size_t k = 0; k < count; ++k) {
+    m.individualStates[k].birth.values(context, newborns.size(), column.data());
+    for (std::size_t i = 0; i < newborns.size(); ++i) world.individualStates.at(newborns[i].genome)[k] = column[i];
   }
 }
 

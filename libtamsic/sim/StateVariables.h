@@ -27,8 +27,10 @@ void StartStates(const Model& model, World& world, SimContext& context);
 void StartGroupStates(const Model& model, World& world, SimContext& context);
 // A supplement, new in the context's population.
 void StartIndividual(const Model& model, World& world, SimContext& context, const Individual& individual);
-// The newborns of the context's population, not yet among its members, whose dams are.
-void BirthStates(const Model& model, World& world, SimContext& context, const std::vector<Individual>& newborns);
+// The newborns of the context's population, not yet among its `members`, in the order of their
+// `mothers` (indexes of members).
+void BirthStates(const Model& model, World& world, SimContext& context, const std::vector<Individual>& members,
+                 const std::vector<std::uint32_t>& mothers, const std::vector<Individual>& newborns);
 // The yearly step.
 void AdvanceStates(const Model& model, World& world, SimContext& context);
 // The census of this year's population (PS) and global (GS) values, the user variables of the yearly data.

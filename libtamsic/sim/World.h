@@ -67,6 +67,7 @@ struct World {
   std::vector<std::vector<Individual>> arrivals;  // dispersers by recipient
   std::vector<double> destinations;              // cumulative chances of a disperser's recipients
   std::vector<double> nextStates;                // state values being worked out
+  std::vector<double> stateColumn;               // ... and one variable of them for a batch
   std::vector<std::uint32_t> alleleCounts;
 
   // The iteration's list of everyone created, when the option "N" asks for it.
