@@ -33,8 +33,13 @@ bool UsesIndividual(const formula::Program& program) {
 bool UsesCounts(const formula::Program& program) {
   for (Var var : {Var::F, Var::G, Var::I, Var::J, Var::M, Var::N, Var::U, Var::W, Var::X})
     if (program.uses(var)) return true;
-  return std::any_of(program.code().begin(), program.code().end(),
-                     [](const formula::Instruction& in) { return in.op == Op::Indexed; });
+  using formula::IndexedVar;
+  return std::any_of(program.code().begin(), program.code().end(), [](const formula::Instruction& in) {
+    const auto var = static_cast<IndexedVar>(in.b);
+    return in.op == Op::Indexed && (var == IndexedVar::FF || var == IndexedVar::JJ || var == IndexedVar::MM ||
+                                    var == IndexedVar::NN || var == IndexedVar::II || var == IndexedVar::WW ||
+                                    var == IndexedVar::XX);
+  });
 }
 
 }  // namespace
