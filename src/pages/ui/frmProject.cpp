@@ -30,6 +30,7 @@
 #include "functions/ui/frmEquation.h"
 #include "functions/ui/frmEquationPreview.h"
 #include "notes/NoteCoding.h"
+#include "pages/MatesEquivalents.h"
 #include "pages/StableAgeDistribution.h"
 #include "pages/ui/FlowLayout.h"
 #include "pages/ui/GridView.h"
@@ -85,7 +86,15 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
     preview.exec();
   };
   context_.stableAgeDistribution = [this](tamsic::clsScenario& record, std::size_t number) {
-    return stableAgeDistribution(record, number);
+    return askAboutRecord(record, number, [&](const std::string& work) {
+      return tamsic::ApplyStableAgeDistribution(record, number, work, engine_);
+    });
+  };
+  context_.matesEquivalents = [this](const tamsic::clsScenario& before, tamsic::clsScenario& after,
+                                     std::size_t number) {
+    return askAboutRecord(after, number, [&](const std::string& work) {
+      return tamsic::ApplyMatesEquivalents(before, after, number, work, engine_);
+    });
   };
   inputPages_ = new InputPages(context_, state_.document.scenarios, *undo_, this);
   stbProject_ = new QStatusBar(this);
@@ -374,13 +383,14 @@ std::optional<std::filesystem::path> frmProject::saveWorkFile(const tamsic::Proj
 
 // The engine reads the scenario from a saved copy of the project that holds
 // the record as it is about to be stored.
-std::optional<std::string> frmProject::stableAgeDistribution(tamsic::clsScenario& record, std::size_t number) {
+std::optional<std::string> frmProject::askAboutRecord(tamsic::clsScenario& record, std::size_t number,
+                                                      const RecordQuestion& question) {
   try {
     tamsic::ProjectDocument copy = state_.document;
     copy.scenarios.Item(number) = record;
     const auto work = tamsic::CreateWorkFile(QCoreApplication::applicationDirPath().toStdString());
     tamsic::SaveProject(copy, work.string(), program_.messages);
-    auto error = tamsic::ApplyStableAgeDistribution(record, number, work.string(), engine_);
+    auto error = question(work.string());
     std::error_code ignored;
     std::filesystem::remove(work, ignored);
     return error;
