@@ -128,7 +128,8 @@ std::string MatesEquivalents(int index, const std::array<double, 4>& values) {
     const int pop = values[3] == 0 ? 0 : static_cast<int>(values[3]) - 1;
     if (pop < 0 || pop >= checked->model.populations)
       throw SimError("the scenario has no population " + report::Num(values[3]));
-    if (index < 0 || index > 2) throw SimError("the measure to compute must be 0, 1 or 2, not " + std::to_string(index));
+    if (index < 0 || index > 2)
+      throw SimError("the measure to compute must be 0, 1 or 2, not " + std::to_string(index));
     int known = -1;
     for (int k = 0; k < 3 && known < 0; ++k)
       if (k != index && values[static_cast<std::size_t>(k)] > 0) known = k;

@@ -60,7 +60,8 @@ Monopolization Equivalents(const Model& model, const LifeTable& table, int pop, 
   if (sires > most * (1 + 1e-9) || sires <= 0)
     throw SimError(where + ": at most " + report::Num(100 * most / males) + " % of adult males can sire young, " +
                    report::Num(young / most) + " young each at the least");
-  const double inPool = which == 0 ? std::clamp(value, 0.0, 100.0) : 100 * PoolFor(model, sires, males, females) / males;
+  const double inPool =
+      which == 0 ? std::clamp(value, 0.0, 100.0) : 100 * PoolFor(model, sires, males, females) / males;
   return {inPool, 100 * sires / males, young / sires};
 }
 

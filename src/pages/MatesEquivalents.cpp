@@ -38,7 +38,9 @@ std::string Shown(double value) { return NumberToText(std::round(value * 100) / 
 
 }  // namespace
 
-bool MatesMeasureChanged(const clsScenario& before, const clsScenario& after) { return !Changes(before, after).empty(); }
+bool MatesMeasureChanged(const clsScenario& before, const clsScenario& after) {
+  return !Changes(before, after).empty();
+}
 
 std::optional<std::string> ApplyMatesEquivalents(const clsScenario& before, clsScenario& after, std::size_t number,
                                                  const std::string& workFile, Engine& engine) {
