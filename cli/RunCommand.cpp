@@ -157,7 +157,8 @@ int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageB
   const std::string list = ScenarioList(opened->document, arguments, messages);
   if (list.empty()) return 1;
   const std::filesystem::path projectFolder = std::filesystem::absolute(arguments.project).parent_path();
-  basSimulation::RunRequest request{CreateWorkFile(ProgramFolder()), list, EngineOptions(opened->document, arguments), ""};
+  basSimulation::RunRequest request{CreateWorkFile(ProgramFolder()), list, EngineOptions(opened->document, arguments),
+                                    arguments.resume ? "+" : ""};
   // The desktop program keeps the work copy of a failed run for a look; here
   // the reply is printed and the project file is at hand, so none is kept.
   const WorkFileRemoval removal{request.workFile};

@@ -104,6 +104,9 @@ class frmProject : public QWidget {
   // The user name chosen from the project's users; -1 when there are none or the user cancels.
   int chooseUserName();
   QString text(int number) const;
+  std::optional<std::string> runOnce(const std::string& list, const std::string& mode,
+                                     const std::vector<std::string>& scenarios);
+  bool stepsLeft() const;
   using RecordQuestion = std::function<std::optional<std::string>(const std::string& workFile)>;
   std::optional<std::string> askAboutRecord(tamsic::clsScenario& record, std::size_t number,
                                             const RecordQuestion& question);
