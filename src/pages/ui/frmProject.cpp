@@ -31,6 +31,7 @@
 #include "functions/ui/frmEquation.h"
 #include "functions/ui/frmEquationPreview.h"
 #include "notes/NoteCoding.h"
+#include "engine/EmptyStart.h"
 #include "files/UnfinishedRun.h"
 #include "pages/MatesEquivalents.h"
 #include "pages/StableAgeDistribution.h"
@@ -452,6 +453,7 @@ void frmProject::runSimulation(const std::vector<std::size_t>& preselected) {
   std::vector<std::string> checked;
   for (std::size_t entry : dialog.runList().checked)
     checked.push_back(std::string(tamsic::Trim(scenarios.Item(entry + 1).Text(tamsic::F("txtSceneName")))));
+  if (!startsAcceptable(checked)) return;
   const std::string folder = tamsic::ResultsFolder(state_);
   // A new run's summary keeps no line of an earlier run of a scenario run again (the engine adds
   // the new line when the scenario is done); a run taken up again keeps the lines of those finished.
@@ -475,6 +477,23 @@ void frmProject::runSimulation(const std::vector<std::size_t>& preselected) {
                                tamsic::MsgButtons::YesNo) != tamsic::MsgAnswer::Yes)
       return;
   }
+}
+
+// Populations that start empty are extinct at once; the user says whether that is meant.
+bool frmProject::startsAcceptable(const std::vector<std::string>& names) {
+  std::string list;
+  for (const std::string& name : names) {
+    const std::size_t number = state_.document.scenarios.Find(name);
+    if (number == 0) continue;
+    const std::vector<std::string> empty = tamsic::PopulationsStartingEmpty(state_.document.scenarios.Item(number));
+    if (empty.empty()) continue;
+    list += "\n" + name + ": " + empty.front();
+    for (std::size_t p = 1; p < empty.size(); ++p) list += ", " + empty[p];
+  }
+  if (list.empty()) return true;
+  return program_.messages.show(program_.strings.text(8223) + "\n" + tamsic::Cp1252ToUtf8(list),
+                                tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation,
+                                tamsic::MsgButtons::YesNo) == tamsic::MsgAnswer::Yes;
 }
 
 bool frmProject::stepsLeft() const {

@@ -107,6 +107,7 @@ class frmProject : public QWidget {
   std::optional<std::string> runOnce(const std::string& list, const std::string& mode,
                                      const std::vector<std::string>& scenarios);
   bool stepsLeft() const;
+  bool startsAcceptable(const std::vector<std::string>& names);
   using RecordQuestion = std::function<std::optional<std::string>(const std::string& workFile)>;
   std::optional<std::string> askAboutRecord(tamsic::clsScenario& record, std::size_t number,
                                             const RecordQuestion& question);
