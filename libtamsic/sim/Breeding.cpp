@@ -145,6 +145,7 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
         born.sire = father.id;
         born.genome = child.slot;
         born.inbreeding = child.inbreeding;
+        if (world.kinship.exact()) born.inbreeding = world.kinship.addChild(child.slot, mother.genome, father.genome);
         born.lethals = child.lethals;
         double share = maleShare;
         if (!constantRatio) {
@@ -157,12 +158,14 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
     }
   }
   context.setIndividual(nullptr);
+  world.kinship.settle();
   pop.members.insert(pop.members.end(), world.moving.begin(), world.moving.end());
 }
 
 }  // namespace
 
 void Breed(const Model& model, World& world, SimContext& context) {
+  world.kinship.settle();  // the founders and supplements that came since
   std::vector<std::uint32_t>& sires = world.scratchC;
   for (int p = 0; p < model.populations; ++p) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];

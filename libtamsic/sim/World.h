@@ -8,6 +8,7 @@
 
 #include "sim/Genome.h"
 #include "sim/Individual.h"
+#include "sim/Kinship.h"
 #include "sim/Random.h"
 #include "sim/Record.h"
 
@@ -50,6 +51,7 @@ struct World {
 
   Random random;
   GenomePool genomes;
+  KinshipMatrix kinship;  // kept exact for a studbook or the management of pairs
   std::vector<PopulationState> pops;
   std::uint32_t nextId = 1;
   int iteration = 1;
