@@ -3,11 +3,13 @@
 // the breeding pool with the % of the monopolization grid. Monogamous males
 // take one female a year, polygamous males are drawn with replacement,
 // long-term pairs stay together while both are alive and in the pool, and a
-// hermaphrodite draws its mate from all adults, itself included.
+// hermaphrodite draws its mate from all adults, itself included. Managed
+// breeding (ManagedBreeding.h) replaces the choice of mates when asked for.
 #include <algorithm>
 #include <cmath>
 
 #include "sim/Distribution.h"
+#include "sim/ManagedBreeding.h"
 #include "sim/Steps.h"
 
 namespace tamsic::sim {
@@ -173,7 +175,10 @@ void Breed(const Model& model, World& world, SimContext& context) {
     context.setPopulation(p);
     const PopulationModel& inputs = model.pops[static_cast<std::size_t>(p)];
     Candidates(model, inputs, pop, context, world, world.scratchA, world.scratchB);
-    Pair(model, pop, world, world.scratchA, world.scratchB, sires);
+    if (model.genetics.managesBreeding())
+      ManageBreeding(model, inputs, pop, world, context, world.scratchA, world.scratchB, sires);
+    else
+      Pair(model, pop, world, world.scratchA, world.scratchB, sires);
     Births(model, inputs, p, world, context, world.scratchA, sires);
   }
 }
