@@ -118,6 +118,7 @@ bool RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
     NoteCensus(m, world, record);
   }
   NoteLiving(m, world, record);
+  NoteGenotypes(m, world, record);
   world.created = nullptr;
   return true;
 }
