@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "sim/Genetics.h"
 #include "sim/Individual.h"
 #include "sim/Options.h"
 #include "sim/Rate.h"
@@ -94,6 +95,7 @@ struct Model {
   bool needsCounts = false;  // some function asks for N, F, M, ... of a population
   int userVariables = 0;  // state-variable columns of the yearly data
   std::vector<PopulationModel> pops;
+  GeneticManagement genetics;
   Options options;
 
   bool sexual() const { return mating != Mating::Hermaphroditic; }

@@ -9,6 +9,7 @@
 #include "model/TextNumbers.h"
 #include "model/TextSplit.h"
 #include "report/ExtraFiles.h"
+#include "report/GeneticFiles.h"
 #include "report/Outcome.h"
 #include "sim/ProjectReader.h"
 #include "sim/ReadModel.h"
@@ -82,22 +83,32 @@ Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, con
   const std::string date = Now();
   const std::string& title = project.title;
   report::ExtraFiles extra(model, title);
+  std::optional<report::GeneticFiles> genetic;
+  auto discard = [&] {
+    extra.discard();
+    if (genetic) genetic->discard();
+  };
   std::optional<Results> results;
   try {
+    genetic.emplace(model, title);
     results = Simulate(model, StartingPopulations(model, tables), seed, options.threads,
-                       [&](int iteration, const IterationRecord& record) { extra.add(iteration, record); });
+                       [&](int iteration, const IterationRecord& record) {
+                         extra.add(iteration, record);
+                         genetic->add(iteration, record);
+                       });
   } catch (...) {
-    extra.discard();
+    discard();
     throw;
   }
   if (!results) {
-    extra.discard();
+    discard();
     return {"", true};
   }
   try {
     extra.close();
+    genetic->close();
   } catch (...) {
-    extra.discard();
+    discard();
     throw;
   }
   const report::Outcome outcome{model, *results, tables, seed, date};

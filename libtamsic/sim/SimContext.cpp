@@ -101,11 +101,12 @@ const Individual* SimContext::findById(double id, std::uint32_t* slot) const {
   return nullptr;
 }
 
-// Rarely used (genetic management comes later), so a search is good enough.
+// Rarely used in functions, so a search is good enough. Exact while the iteration keeps the kinship matrix.
 double SimContext::kinship(double first, double second) {
   std::uint32_t a = 0, b = 0;
   if (!findById(first, &a) || !findById(second, &b)) return 0.0;
-  return world_.genomes.kinship(a, b);
+  world_.kinship.settle();
+  return world_.kinship.exact() ? world_.kinship.at(a, b) : world_.genomes.kinship(a, b);
 }
 
 double SimContext::seededUniform(double seed) { return Unit(Key(runSeed_, seed)); }
