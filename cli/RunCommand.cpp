@@ -9,6 +9,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
@@ -19,12 +20,14 @@
 #include <thread>
 
 #include "engine/Engine.h"
+#include "engine/EmptyStart.h"
 #include "engine/SpecialOptionsFlags.h"
 #include "engine/WorkFile.h"
 #include "engine/basSimulation.h"
 #include "files/ProjectFile.h"
 #include "files/ProjectOpen.h"
 #include "files/TextCodec.h"
+#include "model/TextSplit.h"
 
 namespace tamsic {
 
@@ -137,6 +140,22 @@ void PrintSummary(const std::string& reply) {
   std::cout << Cp1252ToUtf8(lines) << "\n";
 }
 
+// The run goes ahead, as a batch run must; the warning says why those populations are extinct at once.
+void WarnOfEmptyStarts(const ProjectDocument& project, const RunArguments& arguments) {
+  for (std::size_t n = 1; n <= project.scenarios.Count(); ++n) {
+    const clsScenario& scenario = project.scenarios.Item(n);
+    const std::string name(Trim(scenario.Text(F("txtSceneName"))));
+    const auto& chosen = arguments.scenarios;
+    if (!chosen.empty() && std::find(chosen.begin(), chosen.end(), name) == chosen.end()) continue;
+    const std::vector<std::string> empty = PopulationsStartingEmpty(scenario);
+    if (empty.empty()) continue;
+    std::string list = empty.front();
+    for (std::size_t p = 1; p < empty.size(); ++p) list += ", " + empty[p];
+    std::cerr << "Warning: in scenario \"" << Cp1252ToUtf8(name) << "\" these populations start with no individuals, "
+              << "so they are extinct from the first year: " << Cp1252ToUtf8(list) << "\n";
+  }
+}
+
 }  // namespace
 
 std::optional<OpenedProject> OpenForReading(const std::string& path, Messages& messages, StderrMessageBox& box) {
@@ -156,8 +175,10 @@ int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageB
   }
   const std::string list = ScenarioList(opened->document, arguments, messages);
   if (list.empty()) return 1;
+  WarnOfEmptyStarts(opened->document, arguments);
   const std::filesystem::path projectFolder = std::filesystem::absolute(arguments.project).parent_path();
-  basSimulation::RunRequest request{CreateWorkFile(ProgramFolder()), list, EngineOptions(opened->document, arguments), ""};
+  basSimulation::RunRequest request{CreateWorkFile(ProgramFolder()), list, EngineOptions(opened->document, arguments),
+                                    arguments.resume ? "+" : ""};
   // The desktop program keeps the work copy of a failed run for a look; here
   // the reply is printed and the project file is at hand, so none is kept.
   const WorkFileRemoval removal{request.workFile};

@@ -17,6 +17,7 @@ struct RunArguments {
   std::vector<std::string> scenarios;  // empty: all scenarios of the project
   std::optional<std::uint64_t> seed;
   int threads = 0;  // 0: every core
+  bool resume = false;  // go on with an unfinished run: its seed, and only the scenarios it did not finish
 };
 
 // A project read for the command line, with no backups: nothing here changes

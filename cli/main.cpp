@@ -92,6 +92,9 @@ int Run(int argc, char** argv) {
   simulate->add_option("--scenario", run.scenarios, "Scenario to run (repeatable; default: all)");
   auto* seedOption = simulate->add_option("--seed", seed, "Random seed, for repeatable results");
   simulate->add_option("--threads", run.threads, "Threads to use (default: every core)")->check(CLI::NonNegativeNumber);
+  simulate->add_flag("--resume", run.resume,
+                     "Go on with a run that was interrupted or failed: its seed, and only the scenarios it did not "
+                     "finish");
   STArguments st;
   auto* generate = app.add_subcommand("st", "Check the sensitivity-test scheme and write the project with its "
                                             "ST scenarios generated, one per item");

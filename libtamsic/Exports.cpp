@@ -1,6 +1,8 @@
 // The exported functions. Each one answers through Answer(), which turns any
 // failure into an "Error" reply so that nothing escapes across the C
 // boundary.
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <exception>
 #include <string>
@@ -19,7 +21,6 @@ namespace {
 using tamsic::SetReply;
 using tamsic::TextFromCodes;
 
-const char* const kNoSimulation = "Error: the simulation is not available in this build";
 
 template <class Reply>
 void Answer(TamsicVariant* result, Reply&& reply) noexcept {
@@ -78,8 +79,12 @@ void detGraphValues(TamsicVariant* result, const int16_t* text, int32_t count, i
   Answer(result, [&] { return tamsic::sim::DeterministicValues(TextFromCodes(text, count), years); });
 }
 
-void findpolyg(TamsicVariant* result, int16_t, const double*) {
-  Answer(result, [] { return kNoSimulation; });
+void findpolyg(TamsicVariant* result, int16_t index, const double* values) {
+  Answer(result, [&] {
+    std::array<double, 4> given{};
+    if (values != nullptr) std::copy(values, values + 4, given.begin());
+    return tamsic::sim::MatesEquivalents(index, given);
+  });
 }
 
 void testFormula(TamsicVariant* result, const int16_t* formula, int32_t count) {

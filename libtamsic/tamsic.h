@@ -91,12 +91,16 @@ TAMSIC_API void detGraphValues(TamsicVariant* result, const int16_t* text, int32
                                int32_t years);
 
 /*
- * Mate monopolization of the current scenario's stable population at K.
- * `values`: four numbers, [0] % males in the breeding pool, [1] % males
- * successfully siring, [2] mean offspring per siring male, [3] the number of
- * adult males; the element at `index` (0..3) is computed from the others.
- * The library only reads `values`. Reply: the four values, the computed one
- * in its place, separated by ";", or "Error: ...".
+ * Mate monopolization of the current scenario's population held at K in its
+ * stable age distribution. `values`: [0] % of adult males in the breeding
+ * pool, [1] % of adult males that sire young in a year, [2] mean young per
+ * siring male, [3] the population's number (from 1; 0 for the first). The
+ * three measures are equivalent: all are computed from the first one given
+ * (greater than 0) other than the one at `index` (0..2). Polygamous males
+ * are drawn with replacement, monogamous ones take one female each.
+ * The library only reads `values`. Reply: the three measures and the
+ * population's number separated by ";", or "Error: ..." (for example when
+ * the measure cannot be reached, or for hermaphrodites).
  */
 TAMSIC_API void findpolyg(TamsicVariant* result, int16_t index, const double* values);
 

@@ -138,6 +138,58 @@ ProjectDocument Koalas() {
   return project;
 }
 
+// A zoo population of red pandas started from its studbook, with and without genetic management.
+ExampleScenario CaptiveBaseline() {
+  LayoutCounts counts{{"Zoos"}, 0, 0, 0, 0, 2, 2, 15, 1, 2};
+  ExampleScenario s("Unmanaged", counts);
+  CommonSettings(s);
+  s.text(F("txtNumYear"), "50").text(F("txtNumPop"), "1").text(F("txtNumCatast"), "0").text(F("txtEV"), "0");
+  s.text(F("txtDispYoung"), "1").text(F("txtDispOld"), "2");
+  s.option(F("optMPHLQ_0")).text(F("txtMaxProgeny"), "2");
+  s.text(F("txtAgeReproF"), "2").text(F("txtAgeReproM"), "2").text(F("txtMaxAgeRepro"), "15");
+  s.cell(F("gridRepRates3"), 1, 1, "0").cell(F("gridRepRates3"), 2, 1, "55").cell(F("gridRepRates3"), 3, 1, "45");
+  s.cell(F("gridPopLabels"), 1, 1, "Zoos");
+  s.column(F("gridReproSys"), 1, {"0", "", "", "", ""});
+  s.row(F("gridRepRates1"), 1, {"60", "10"});
+  s.row(F("gridRepRates2"), 1, {"1.5", "0.5"});
+  s.row(F("gridMortFemales"), 1, {"30", "5", "10", "3", "8", "2"});
+  s.row(F("gridMortMales"), 1, {"30", "5", "10", "3", "8", "2"});
+  s.column(F("gridDegMonop"), 1, {"100", "", ""});
+  s.row(F("gridInitPopStable"), 1, {"20"});
+  s.column(F("gridCarryingCap1"), 1, {"40", "0"});
+  s.column(F("gridCarryingCap2"), 1, {"0", "", ""});
+  s.column(F("gridHarvest"), 1, {"0", "", "", "", ""});
+  s.column(F("gridSuppl"), 1, {"0", "", "", "", ""});
+  s.check(F("chkGenMgtImportStudbookFile")).text(F("txtGenMgtImportStudbookFile"), "Captive-studbook.txt");
+  s.check(F("chkGenMgtAlleleFreqs")).text(F("txtGenMgtAlleleFreqs"), "Captive-alleles.txt");
+  s.text(F("txtGenMgtNumNeutralLoci"), "5");
+  return s;
+}
+
+ProjectDocument Captive() {
+  ExampleScenario unmanaged = CaptiveBaseline();
+  // The programme's rules: breed only to fill the places, pairs by mean kinship.
+  ExampleScenario managed = unmanaged;
+  managed.text(F("txtSceneName"), "Mean kinship");
+  managed.check(F("chkGenMgtBreedToMaintinK")).check(F("chkGenMgtPairMeanKinship"));
+  managed.check(F("chkGenMgtOutputGenePop")).check(F("chkGenMgtOutputAlleleFreq"));
+  // Random pairs, but none closer than half sibs: in so small a population
+  // few pairs are left, and fewer every generation.
+  ExampleScenario strict = unmanaged;
+  strict.text(F("txtSceneName"), "No close matings");
+  strict.check(F("chkGenMgtPreventMatingsF")).text(F("txtGenMgtPreventMatingsF"), "0.125");
+
+  ProjectDocument project;
+  project.title = "Captive red pandas";
+  project.notes = "Example: a zoo population started from its studbook and microsatellite allele frequencies, "
+                  "with random mating, pairing by mean kinship, and matings of close relatives prevented.";
+  project.users = {"Tamsic examples"};
+  project.scenarios.Add(unmanaged.scenario());
+  project.scenarios.Add(managed.scenario());
+  project.scenarios.Add(strict.scenario());
+  return project;
+}
+
 }  // namespace
 }  // namespace tamsic::examples
 
@@ -154,6 +206,7 @@ int main(int argc, char** argv) {
     const std::string folder = argv[1];
     SaveProject(examples::Gorillas(), folder + "/Gorillas.tpj", messages);
     SaveProject(examples::Koalas(), folder + "/Koalas.tpj", messages);
+    SaveProject(examples::Captive(), folder + "/Captive.tpj", messages);
   } catch (const TamsicError& error) {
     std::cerr << error.what() << "\n";
     return 1;

@@ -19,9 +19,8 @@ void Prefetch(const GenomePool& g, const std::vector<Individual>& members, std::
 // Adds the members to the population's tally and their neutral alleles to
 // its table and, when `meta` is given, to the metapopulation's, in one pass.
 template <int Bits>
-void Count(const GenomePool& g, const std::vector<Individual>& members, std::uint32_t* own, Tally& ownTally,
-           std::uint32_t* meta, Tally* metaTally) {
-  const int loci = g.shape().neutralLoci;
+void Count(const GenomePool& g, int loci, const std::vector<Individual>& members, std::uint32_t* own,
+           Tally& ownTally, std::uint32_t* meta, Tally* metaTally) {
   const std::size_t alleles = g.alleleCount();
   for (std::size_t i = 0; i < members.size(); ++i) {
     Prefetch(g, members, i + kAhead);
@@ -38,8 +37,8 @@ void Count(const GenomePool& g, const std::vector<Individual>& members, std::uin
 // Takes the counts of the members' alleles into the tally, zeroing each
 // when first seen so that it is taken once.
 template <int Bits>
-void Collect(const GenomePool& g, const std::vector<Individual>& members, std::uint32_t* counts, Tally& tally) {
-  const int loci = g.shape().neutralLoci;
+void Collect(const GenomePool& g, int loci, const std::vector<Individual>& members, std::uint32_t* counts,
+             Tally& tally) {
   const std::size_t alleles = g.alleleCount();
   for (std::size_t i = 0; i < members.size(); ++i) {
     Prefetch(g, members, i + kAhead);
@@ -96,20 +95,18 @@ void Sweep(std::uint32_t* counts, std::size_t table, Tally& tally, std::uint32_t
 // of the whole table, which is small for them (a sweep takes an entry in
 // about a tenth of the time a visit to a member's allele takes, measured on
 // metapopulations of small populations), or by visiting the members' alleles.
-bool Sweeps(const GenomePool& g, const PopulationState* first, const PopulationState* last) {
-  const std::size_t table = static_cast<std::size_t>(g.shape().neutralLoci) * g.alleleCount();
+bool Sweeps(const GenomePool& g, int loci, const PopulationState* first, const PopulationState* last) {
+  const std::size_t table = static_cast<std::size_t>(loci) * g.alleleCount();
   std::size_t visits = 0;
   for (const PopulationState* pop = first; pop != last; ++pop)
-    visits += 2 * static_cast<std::size_t>(g.shape().neutralLoci) * pop->members.size();
+    visits += 2 * static_cast<std::size_t>(loci) * pop->members.size();
   return table < 10 * visits;
 }
 
-
-
 template <int Bits>
-void CountBySorting(const GenomePool& g, const PopulationState* first, const PopulationState* last,
-                    std::vector<std::uint32_t>& alleles, Tally& tally) {
-  for (int l = 0; l < g.shape().neutralLoci; ++l) {
+void CountBySorting(const GenomePool& g, const TalliedLoci& loci, const PopulationState* first,
+                    const PopulationState* last, std::vector<std::uint32_t>& alleles, Tally& tally) {
+  for (int l = loci.first; l < loci.end; ++l) {
     alleles.clear();
     for (const PopulationState* pop = first; pop != last; ++pop)
       for (const Individual& ind : pop->members)
@@ -128,33 +125,35 @@ void CountBySorting(const GenomePool& g, const PopulationState* first, const Pop
 
 }  // namespace
 
-void CountByTable(const GenomePool& g, const PopulationState& pop, std::uint32_t* own, Tally& tally,
-                  std::uint32_t* meta, Tally* metaTally) {
+void CountByTable(const GenomePool& g, const TalliedLoci& loci, const PopulationState& pop, std::uint32_t* own,
+                  Tally& tally, std::uint32_t* meta, Tally* metaTally) {
   // The metapopulation's counts are the populations' summed: during the
   // sweep of a population's table when it sweeps, else allele by allele.
-  const bool summedBySweep = meta && Sweeps(g, &pop, &pop + 1);
+  const bool summedBySweep = meta && Sweeps(g, loci.end, &pop, &pop + 1);
   std::uint32_t* metaByAllele = summedBySweep ? nullptr : meta;
-  if (g.wide()) Count<32>(g, pop.members, own, tally, metaByAllele, metaTally);
-  else Count<16>(g, pop.members, own, tally, metaByAllele, metaTally);
-  Settle(g, &pop, &pop + 1, own, tally, summedBySweep ? meta : nullptr);
+  if (g.wide()) Count<32>(g, loci.end, pop.members, own, tally, metaByAllele, metaTally);
+  else Count<16>(g, loci.end, pop.members, own, tally, metaByAllele, metaTally);
+  Settle(g, loci, &pop, &pop + 1, own, tally, summedBySweep ? meta : nullptr);
 }
 
-void Settle(const GenomePool& g, const PopulationState* first, const PopulationState* last, std::uint32_t* counts,
-            Tally& tally, std::uint32_t* into) {
-  if (Sweeps(g, first, last)) {
-    Sweep(counts, static_cast<std::size_t>(g.shape().neutralLoci) * g.alleleCount(), tally, into);
+void Settle(const GenomePool& g, const TalliedLoci& loci, const PopulationState* first, const PopulationState* last,
+            std::uint32_t* counts, Tally& tally, std::uint32_t* into) {
+  // Loci left out of the tally are zero before the counts are taken, so they add nothing.
+  std::fill_n(counts, static_cast<std::size_t>(loci.first) * g.alleleCount(), 0u);
+  if (Sweeps(g, loci.end, first, last)) {
+    Sweep(counts, static_cast<std::size_t>(loci.end) * g.alleleCount(), tally, into);
     return;
   }
   for (const PopulationState* pop = first; pop != last; ++pop) {
-    if (g.wide()) Collect<32>(g, pop->members, counts, tally);
-    else Collect<16>(g, pop->members, counts, tally);
+    if (g.wide()) Collect<32>(g, loci.end, pop->members, counts, tally);
+    else Collect<16>(g, loci.end, pop->members, counts, tally);
   }
 }
 
-void CountBySorting(const GenomePool& g, const PopulationState* first, const PopulationState* last,
-                    std::vector<std::uint32_t>& alleles, Tally& tally) {
-  if (g.wide()) CountBySorting<32>(g, first, last, alleles, tally);
-  else CountBySorting<16>(g, first, last, alleles, tally);
+void CountBySorting(const GenomePool& g, const TalliedLoci& loci, const PopulationState* first,
+                    const PopulationState* last, std::vector<std::uint32_t>& alleles, Tally& tally) {
+  if (g.wide()) CountBySorting<32>(g, loci, first, last, alleles, tally);
+  else CountBySorting<16>(g, loci, first, last, alleles, tally);
 }
 
 }  // namespace tamsic::sim

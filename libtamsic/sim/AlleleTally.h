@@ -37,21 +37,29 @@ struct Tally {
   }
 };
 
+// The neutral loci a census counts, first .. end - 1. The table has rows for
+// loci 0 .. end - 1; rows before `first` are counted and then cleared.
+struct TalliedLoci {
+  int first = 0;
+  int end = 1;
+  int count() const { return end - first; }
+};
+
 // Past this many entries (64 MB) a table would be larger than the
 // individuals themselves; each locus' alleles are then sorted instead.
 inline constexpr std::size_t kLargestTable = std::size_t{1} << 24;
 
 // A population's members into its tally and its table of counts, and into
 // the metapopulation's when `meta` is given (its members into `metaTally`).
-void CountByTable(const GenomePool& g, const PopulationState& pop, std::uint32_t* own, Tally& tally,
-                  std::uint32_t* meta, Tally* metaTally);
+void CountByTable(const GenomePool& g, const TalliedLoci& loci, const PopulationState& pop, std::uint32_t* own,
+                  Tally& tally, std::uint32_t* meta, Tally* metaTally);
 // Takes the counts of populations first..last into the tally and leaves the
 // table zero; a sweep of the table also adds them to `into` when given.
-void Settle(const GenomePool& g, const PopulationState* first, const PopulationState* last, std::uint32_t* counts,
-            Tally& tally, std::uint32_t* into);
+void Settle(const GenomePool& g, const TalliedLoci& loci, const PopulationState* first, const PopulationState* last,
+            std::uint32_t* counts, Tally& tally, std::uint32_t* into);
 // The allele statistics of populations first..last without a table, using
 // `alleles` as room to sort in (members are not added to the tally).
-void CountBySorting(const GenomePool& g, const PopulationState* first, const PopulationState* last,
-                    std::vector<std::uint32_t>& alleles, Tally& tally);
+void CountBySorting(const GenomePool& g, const TalliedLoci& loci, const PopulationState* first,
+                    const PopulationState* last, std::vector<std::uint32_t>& alleles, Tally& tally);
 
 }  // namespace tamsic::sim

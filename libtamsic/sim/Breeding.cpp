@@ -3,11 +3,13 @@
 // the breeding pool with the % of the monopolization grid. Monogamous males
 // take one female a year, polygamous males are drawn with replacement,
 // long-term pairs stay together while both are alive and in the pool, and a
-// hermaphrodite draws its mate from all adults, itself included.
+// hermaphrodite draws its mate from all adults, itself included. Managed
+// breeding (ManagedBreeding.h) replaces the choice of mates when asked for.
 #include <algorithm>
 #include <cmath>
 
 #include "sim/Distribution.h"
+#include "sim/ManagedBreeding.h"
 #include "sim/StateVariables.h"
 #include "sim/Steps.h"
 
@@ -171,6 +173,7 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
         born.sire = father.id;
         born.genome = child.slot;
         born.inbreeding = child.inbreeding;
+        if (world.kinship.exact()) born.inbreeding = world.kinship.addChild(child.slot, mother.genome, father.genome);
         born.lethals = child.lethals;
         double share = maleShare;
         if (!constantRatio) {
@@ -184,12 +187,14 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
   }
   if (!m.individualStates.empty()) BirthStates(m, world, context, pop.members, mothers, world.moving);
   context.setIndividual(nullptr);
+  world.kinship.settle();
   pop.members.insert(pop.members.end(), world.moving.begin(), world.moving.end());
 }
 
 }  // namespace
 
 void Breed(const Model& model, World& world, SimContext& context) {
+  world.kinship.settle();  // the founders and supplements that came since
   std::vector<std::uint32_t>& sires = world.scratchC;
   for (int p = 0; p < model.populations; ++p) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
@@ -197,7 +202,10 @@ void Breed(const Model& model, World& world, SimContext& context) {
     context.setPopulation(p);
     const PopulationModel& inputs = model.pops[static_cast<std::size_t>(p)];
     Candidates(model, inputs, pop, context, world, world.scratchA, world.scratchB);
-    Pair(model, pop, world, world.scratchA, world.scratchB, sires);
+    if (model.genetics.managesBreeding())
+      ManageBreeding(model, inputs, pop, world, context, world.scratchA, world.scratchB, sires);
+    else
+      Pair(model, pop, world, world.scratchA, world.scratchB, sires);
     if (BroodsPerMother(model, inputs)) Births<true>(model, inputs, p, world, context, world.scratchA, sires);
     else Births<false>(model, inputs, p, world, context, world.scratchA, sires);
   }

@@ -1,5 +1,6 @@
 #include "sim/CheckIn.h"
 
+#include <array>
 #include <filesystem>
 #include <memory>
 #include <mutex>
@@ -10,6 +11,7 @@
 #include "report/Reports.h"
 #include "report/TextFile.h"
 #include "sim/LifeTable.h"
+#include "sim/Monopolization.h"
 #include "sim/ProjectReader.h"
 #include "sim/ReadModel.h"
 #include "sim/SimError.h"
@@ -117,6 +119,25 @@ std::string DeterministicValues(const std::string& text, std::int32_t years) {
     std::string reply;
     for (double value : n) reply += (reply.empty() ? "" : ";") + report::Num(value);
     return reply;
+  });
+}
+
+std::string MatesEquivalents(int index, const std::array<double, 4>& values) {
+  return Answer([&] {
+    const auto checked = CheckedIn::get().current();
+    const int pop = values[3] == 0 ? 0 : static_cast<int>(values[3]) - 1;
+    if (pop < 0 || pop >= checked->model.populations)
+      throw SimError("the scenario has no population " + report::Num(values[3]));
+    if (index < 0 || index > 2)
+      throw SimError("the measure to compute must be 0, 1 or 2, not " + std::to_string(index));
+    int known = -1;
+    for (int k = 0; k < 3 && known < 0; ++k)
+      if (k != index && values[static_cast<std::size_t>(k)] > 0) known = k;
+    if (known < 0) throw SimError("one of the other two measures must be given");
+    const Monopolization m = Equivalents(checked->model, checked->tables[static_cast<std::size_t>(pop)], pop, known,
+                                         values[static_cast<std::size_t>(known)]);
+    return report::Num(m.inPool) + ";" + report::Num(m.siring) + ";" + report::Num(m.perSire) + ";" +
+           std::to_string(pop + 1);
   });
 }
 

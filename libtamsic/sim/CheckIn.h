@@ -3,6 +3,7 @@
 // until the next check-in or tamsdllclose. This is engine state that the
 // calling contract keeps between calls; it lives in this one class, behind
 // a lock.
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -15,6 +16,10 @@ std::string CheckIn(const std::string& text, std::int32_t flag);
 std::string AgeDistribution(int size);
 // The deterministic projection of N (all populations) by year, joined by ";".
 std::string DeterministicValues(const std::string& text, std::int32_t years);
+// The three mate-monopolization measures of population values[3] (from 1; 0
+// for the first) at K: all three computed from the first measure given other
+// than the one at `index`, joined by ";" with the population's number.
+std::string MatesEquivalents(int index, const std::array<double, 4>& values);
 // Forgets the checked-in scenario.
 void ForgetCheckIn();
 

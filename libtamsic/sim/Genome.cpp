@@ -109,7 +109,7 @@ void GenomePool::layout(bool wide) {
   stride_ = (lethalAt_ + 2 * lethalWords_ + kLineWords - 1) / kLineWords * kLineWords;
   // All ones in the lanes that hold identity loci, block by block.
   ibdLanes_.assign(kBlockWords * blocks_, 0);
-  for (int l = 0; l < shape_.ibdLoci; ++l) {
+  for (int l = shape_.ibdFirst; l < shape_.lethalFirst(); ++l) {
     const int lane = l % lanes;
     ibdLanes_[kBlockWords * static_cast<std::size_t>(l / lanes) + static_cast<std::size_t>(lane / (64 / bits))] |=
         ((1ULL << bits) - 1) << (bits * (lane % (64 / bits)));
@@ -174,12 +174,23 @@ std::uint32_t GenomePool::addFounder(std::uint8_t& lethals) {
   std::fill_n(bits, 2 * lethalWords_, 0);
   for (std::size_t h = 0; h < 2; ++h)
     for (int j = 0; j < shape_.lethalLoci; ++j) {
-      const bool is = lethal(first + static_cast<std::uint32_t>(h), shape_.ibdLoci + j);
+      const bool is = lethal(first + static_cast<std::uint32_t>(h), shape_.lethalFirst() + j);
       bits[h * lethalWords_ + static_cast<std::size_t>(j / 64)] |= static_cast<std::uint64_t>(is) << (j % 64);
       count += is;
     }
   lethals = static_cast<std::uint8_t>(std::min(count, 255));
   return slot;
+}
+
+void GenomePool::setAllele(std::uint32_t slot, int haplotype, int locus, std::uint32_t allele) {
+  const int bits = wide_ ? 32 : 16;
+  const int perBlock = 128 / bits;
+  const int perWord = 64 / bits;
+  const int lane = locus % perBlock;
+  std::uint64_t& word =
+      words_[slot * stride_ + static_cast<std::size_t>(2 * (2 * (locus / perBlock) + haplotype) + lane / perWord)];
+  const int shift = bits * (lane % perWord);
+  word = (word & ~(((1ULL << bits) - 1) << shift)) | (static_cast<std::uint64_t>(allele) << shift);
 }
 
 Newborn GenomePool::addChild(std::uint32_t dam, std::uint32_t sire, Random& random) {
@@ -236,7 +247,7 @@ void GenomePool::passLethals(const std::uint64_t* mother, const std::uint64_t* f
                          const std::uint64_t* draws, std::size_t drawCount, Newborn& born) const {
   int lethals = 0;
   for (std::size_t w = 0; w < lethalWords_; ++w) {
-    const std::size_t first = static_cast<std::size_t>(shape_.ibdLoci) + 64 * w;  // locus of bit 0
+    const std::size_t first = static_cast<std::size_t>(shape_.lethalFirst()) + 64 * w;  // locus of bit 0
     const std::uint64_t dam = BitsFrom(draws, first);
     const std::uint64_t sire = BitsFrom(draws + drawCount, first);
     const std::uint64_t* m = mother + lethalAt_;
@@ -259,14 +270,24 @@ double GenomePool::kinship(std::uint32_t a, std::uint32_t b) const {
   return shared / (4.0 * shape_.ibdLoci);
 }
 
+// The four pairings of the two genomes' haplotypes compared a block at a
+// time: mean kinships of large populations take many of these.
 template <int Bits>
 int GenomePool::sharedAlleles(std::uint32_t a, std::uint32_t b) const {
+  using Lanes = typename Block<Bits>::Lanes;
+  using Same = typename Block<Bits>::Same;
+  constexpr std::size_t block = kBlockWords;
   const std::uint64_t* x = genome(a);
   const std::uint64_t* y = genome(b);
+  Same same{};  // -1 per identity locus and pairing found identical, lane by lane
+  for (std::size_t k = 0; k < blocks_; ++k) {
+    const Lanes xm = Load<Lanes>(x + 2 * k * block), xp = Load<Lanes>(x + (2 * k + 1) * block);
+    const Lanes ym = Load<Lanes>(y + 2 * k * block), yp = Load<Lanes>(y + (2 * k + 1) * block);
+    const Same ibd = Load<Same>(&ibdLanes_[k * block]);
+    same += ((xm == ym) & ibd) + ((xm == yp) & ibd) + ((xp == ym) & ibd) + ((xp == yp) & ibd);
+  }
   int shared = 0;
-  for (int l = 0; l < shape_.ibdLoci; ++l)
-    for (int i = 0; i < 2; ++i)
-      for (int j = 0; j < 2; ++j) shared += Lane<Bits>(x, i, l) == Lane<Bits>(y, j, l);
+  for (int k = 0; k < kLanes<Bits>; ++k) shared -= same[k];
   return shared;
 }
 

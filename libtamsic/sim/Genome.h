@@ -3,8 +3,11 @@
 // founder-unique alleles: founder haplotype h has allele h at every locus,
 // so two alleles are identical exactly when they descend from the same
 // founder allele. Loci 0..ibdLoci-1 measure identity by descent (the first
-// neutralLoci of them are the neutral loci whose diversity is reported);
-// the lethalLoci after them carry recessive lethals: founder allele h is
+// neutralLoci of them are the neutral loci whose diversity is reported).
+// When founders draw their neutral alleles from given frequencies, alike
+// alleles need not be identical by descent: the neutral loci then come first
+// and the identity loci follow them (ibdFirst = neutralLoci). The lethalLoci
+// after the identity loci carry recessive lethals: founder allele h is
 // lethal at lethal locus l when a hash of (h, l, seed) falls below the
 // lethal share. The hash is taken once, when the founder is made: each
 // haplotype carries a bit per lethal locus, set where its allele is lethal,
@@ -44,11 +47,14 @@ struct CacheAligned {
 };
 
 struct GenomeShape {
+  int ibdFirst = 0;
   int ibdLoci = 64;
   int neutralLoci = 1;
   int lethalLoci = 0;
   double lethalShare = 0.0;  // chance that a founder allele is lethal at a lethal locus
-  int loci() const { return ibdLoci + lethalLoci; }
+  std::uint32_t drawnAlleles = 0;  // kinds of neutral allele drawn from frequencies, 0 when none are
+  int lethalFirst() const { return ibdFirst + ibdLoci; }
+  int loci() const { return lethalFirst() + lethalLoci; }
 };
 
 struct Newborn {
@@ -66,6 +72,8 @@ class GenomePool {
 
   // A founder with two new haplotypes.
   std::uint32_t addFounder(std::uint8_t& lethals);
+  // Replaces an allele of a founder (a neutral allele drawn from frequencies).
+  void setAllele(std::uint32_t slot, int haplotype, int locus, std::uint32_t allele);
   // A child of two parents (the same slot twice for selfing).
   Newborn addChild(std::uint32_t dam, std::uint32_t sire, Random& random);
   void release(std::uint32_t slot) { releaseIf(slot, true); }
@@ -116,7 +124,8 @@ class GenomePool {
   bool wide() const { return wide_; }
   // Kinship from shared alleles at the identity-by-descent loci.
   double kinship(std::uint32_t a, std::uint32_t b) const;
-  std::uint32_t alleleCount() const { return nextAllele_; }
+  // Alleles are numbered below this: founder alleles and the kinds drawn from frequencies.
+  std::uint32_t alleleCount() const { return std::max(nextAllele_, shape_.drawnAlleles); }
   const GenomeShape& shape() const { return shape_; }
 
  private:

@@ -30,8 +30,12 @@ namespace {
 constexpr int kIbdLoci = 64;
 constexpr double kLethalLociPerEquivalent = 4.0;
 
+// A population with living animals in the studbook starts with them; the others as their inputs say.
 void Found(const Model& m, const std::vector<StartingNumbers>& start, World& world) {
+  const auto& studbook = m.genetics.studbook;
+  if (studbook) FoundFromStudbook(m, world);
   for (std::size_t p = 0; p < start.size(); ++p) {
+    if (studbook && studbook->populates(static_cast<int>(p))) continue;
     PopulationState& pop = world.pops[p];
     for (int sex : {kFemale, kMale})
       for (std::size_t a = 0; a < start[p].byAge[sex].size(); ++a)
@@ -44,6 +48,8 @@ void Found(const Model& m, const std::vector<StartingNumbers>& start, World& wor
 void Reset(const Model& m, std::uint64_t seed, int iteration, World& world) {
   world.random = Random(seed, static_cast<std::uint64_t>(iteration));
   world.genomes.reset(ShapeOf(m), Mix(seed ^ Mix(static_cast<std::uint64_t>(iteration) + 0x5bd1e995ULL)));
+  world.kinship.reset(m.genetics.exactKinship());
+  world.founderAlleles = m.genetics.founderAlleles.empty() ? nullptr : &m.genetics.founderAlleles;
   world.pops.resize(static_cast<std::size_t>(m.populations));
   for (std::size_t p = 0; p < world.pops.size(); ++p) {
     PopulationState& pop = world.pops[p];
@@ -69,6 +75,12 @@ GenomeShape ShapeOf(const Model& m) {
   GenomeShape shape;
   shape.neutralLoci = m.neutralLoci;
   shape.ibdLoci = std::max(kIbdLoci, m.neutralLoci);
+  if (!m.genetics.founderAlleles.empty()) {
+    // Alleles alike in state need not be identical by descent: identity loci of their own.
+    shape.ibdFirst = m.neutralLoci;
+    shape.ibdLoci = kIbdLoci;
+    shape.drawnAlleles = m.genetics.alleleKinds;
+  }
   const double lethal = m.inbreedingDepression ? m.lethalEquivalents * m.percentLethal / 100.0 : 0.0;
   if (lethal > 0.0) {
     // Many loci with a modest share of lethal founder alleles, so that
@@ -113,6 +125,7 @@ bool RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
     NoteCensus(m, world, record);
   }
   NoteLiving(m, world, record);
+  NoteGenotypes(m, world, record);
   world.created = nullptr;
   return true;
 }

@@ -15,5 +15,7 @@ namespace tamsic::sim {
 void NoteCensus(const Model& model, World& world, IterationRecord& record);
 // At the end of an iteration: the living.
 void NoteLiving(const Model& model, const World& world, IterationRecord& record);
+// At the end of an iteration: the neutral genotypes of the living, when a genetic output file needs them.
+void NoteGenotypes(const Model& model, const World& world, IterationRecord& record);
 
 }  // namespace tamsic::sim

@@ -112,7 +112,10 @@ LifeTable BuildLifeTable(const Model& m, int pop) {
     surviveFactor *= 1.0 - f + f * c.survival.value(context);
   }
   t.maleShare = m.sexual() ? Share(m.sexRatio.value(context)) : 0.0;
-  const double young = Share(p.breeding.value(context)) * breedFactor * YoungPerBreeder(m, p, context);
+  t.capacity = world.pops[static_cast<std::size_t>(pop)].year.capacity;
+  t.breeders = Share(p.breeding.value(context)) * breedFactor;
+  t.youngPerBreeder = YoungPerBreeder(m, p, context);
+  const double young = t.breeders * t.youngPerBreeder;
   for (int sex : {kFemale, kMale})
     for (int x = 0; x <= m.maxAge; ++x) {
       const Rate& mortality = p.mortality[sex][static_cast<std::size_t>(m.mortalityClass(sex, x))];
@@ -143,15 +146,15 @@ void StableNumbers(const LifeTable& t, int size, std::vector<int> (&out)[2]) {
   };
   std::vector<Part> parts;
   int placed = 0;
-  for (int sex : {kFemale, kMale}) {
-    out[sex].assign(t.stable[sex].size(), 0);
-    for (std::size_t a = 0; a < t.stable[sex].size(); ++a) {
+  for (int sex : {kFemale, kMale}) out[sex].assign(t.stable[sex].size(), 0);
+  // Female and male classes of each age side by side, so that tied remainders go to both sexes in turn.
+  for (std::size_t a = 0; a < t.stable[kFemale].size(); ++a)
+    for (int sex : {kFemale, kMale}) {
       const double exact = t.stable[sex][a] * size;
       out[sex][a] = static_cast<int>(std::floor(exact));
       placed += out[sex][a];
       parts.push_back({exact - std::floor(exact), sex, a});
     }
-  }
   std::stable_sort(parts.begin(), parts.end(), [](const Part& x, const Part& y) { return x.remainder > y.remainder; });
   for (std::size_t k = 0; placed < size && !parts.empty(); ++placed, k = (k + 1) % parts.size())
     ++out[parts[k].sex][parts[k].age];

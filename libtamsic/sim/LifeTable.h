@@ -17,6 +17,9 @@ struct LifeTable {
   // Daughters (all young for hermaphrodites) per female of census age x, x = 0..maxAge.
   std::vector<double> fecundity;
   double maleShare = 0.5;  // of the young
+  double capacity = 0.0;        // K at the start
+  double breeders = 0.0;        // share of adult females that breed in a year, catastrophes averaged in
+  double youngPerBreeder = 0.0;  // mean young per breeding female in a year
   double lambda = 0.0;
   double r = 0.0;
   double R0 = 0.0;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "sim/Genetics.h"
 #include "sim/Individual.h"
 #include "sim/Options.h"
 #include "sim/Rate.h"
@@ -106,6 +107,7 @@ struct Model {
   std::vector<IndividualStateVar> individualStates;  // IS1, IS2, ...
   std::vector<Rate> globalStates;                    // GS1, GS2, ...
   std::vector<PopulationModel> pops;
+  GeneticManagement genetics;
   Options options;
 
   bool sexual() const { return mating != Mating::Hermaphroditic; }

@@ -3,12 +3,23 @@
 
 namespace tamsic::sim {
 
+std::uint32_t FounderGenome(World& world, std::uint8_t& lethals) {
+  const std::uint32_t slot = world.genomes.addFounder(lethals);
+  if (world.founderAlleles)
+    for (int h = 0; h < 2; ++h)
+      for (std::size_t l = 0; l < world.founderAlleles->size(); ++l)
+        world.genomes.setAllele(slot, h, static_cast<int>(l),
+                                static_cast<std::uint32_t>((*world.founderAlleles)[l].draw(world.random)));
+  if (world.kinship.exact()) world.kinship.addFounder(slot);
+  return slot;
+}
+
 Individual MakeFounder(World& world, int sex, int age, int population, Origin origin) {
   Individual ind;
   ind.id = world.nextId++;
   ind.sex = static_cast<std::uint8_t>(sex);
   ind.age = static_cast<std::uint16_t>(age);
-  ind.genome = world.genomes.addFounder(ind.lethals);
+  ind.genome = FounderGenome(world, ind.lethals);
   world.noteCreated(ind, population, origin);
   return ind;
 }

@@ -6,6 +6,7 @@
 #include "model/TextSplit.h"
 #include "report/Outcome.h"
 #include "sim/CellReader.h"
+#include "sim/ReadGenetics.h"
 #include "sim/ReadPopulation.h"
 #include "sim/ReadStates.h"
 #include "sim/SimError.h"
@@ -111,6 +112,7 @@ Model ReadModel(const clsScenario& scenario, const std::filesystem::path& folder
   ReadReproduction(in, m);
   m.startStable = !in.Truth(F("optStartWith_1"));
   m.neutralLoci = in.Whole(F("txtGenMgtNumNeutralLoci"), 1);
+  m.genetics = ReadGenetics(in, m, folder);
   const int catastrophes = in.Whole(F("txtNumCatast"), 0);
   m.userVariables = std::max(in.Whole(F("txtNumPopStateVars"), 0), in.Whole(F("txtNumGlobalVars"), 0));
   for (int p = 0; p < m.populations; ++p) m.pops.push_back(ReadPopulation(in, m, p, catastrophes));

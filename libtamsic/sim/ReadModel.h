@@ -1,9 +1,7 @@
 #pragma once
 // Turns a scenario record into the Model the simulation runs. Every input
 // is checked here, before any iteration starts; a fault throws SimError
-// naming the input. Genetic management (studbook, allele frequencies,
-// kinship pairing, preventing matings, breeding to K) is accepted and not
-// yet used.
+// naming the input, and files that inputs name are read and checked here.
 #include <filesystem>
 
 #include "model/clsScenario.h"

@@ -2,6 +2,7 @@
 // What one iteration leaves for the results: for every population (and the
 // metapopulation when there are several) and every year 0..NumYears, the
 // census of that year.
+#include <cstdint>
 #include <vector>
 
 #include "sim/Individual.h"
@@ -46,16 +47,33 @@ struct CensusEntry {
   Census census;
 };
 
+// The neutral genotypes of the living at the end of an iteration, for the
+// genetic output files: for each individual, locus by locus, the maternal
+// then the paternal allele (0 for the first allele of a locus).
+struct Genotypes {
+  int loci = 0;
+  std::vector<int> population;
+  std::vector<std::uint32_t> id;
+  std::vector<std::uint32_t> alleles;
+  void clear() {
+    population.clear();
+    id.clear();
+    alleles.clear();
+  }
+};
+
 struct Journal {
   std::vector<LivingEntry> living;
   std::vector<double> livingStates;  // IS1, IS2, ... of each of the living in turn
   std::vector<CreatedEntry> created;
   std::vector<CensusEntry> census;
+  Genotypes genotypes;
   void clear() {
     living.clear();
     livingStates.clear();
     created.clear();
     census.clear();
+    genotypes.clear();
   }
 };
 

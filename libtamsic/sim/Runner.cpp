@@ -5,9 +5,11 @@
 #include <random>
 
 #include "files/OutputNames.h"
+#include "files/UnfinishedRun.h"
 #include "model/TextNumbers.h"
 #include "model/TextSplit.h"
 #include "report/ExtraFiles.h"
+#include "report/GeneticFiles.h"
 #include "report/Outcome.h"
 #include "sim/ProjectReader.h"
 #include "sim/ReadModel.h"
@@ -81,22 +83,32 @@ Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, con
   const std::string date = Now();
   const std::string& title = project.title;
   report::ExtraFiles extra(model, title);
+  std::optional<report::GeneticFiles> genetic;
+  auto discard = [&] {
+    extra.discard();
+    if (genetic) genetic->discard();
+  };
   std::optional<Results> results;
   try {
+    genetic.emplace(model, title);
     results = Simulate(model, StartingPopulations(model, tables), seed, options.threads,
-                       [&](int iteration, const IterationRecord& record) { extra.add(iteration, record); });
+                       [&](int iteration, const IterationRecord& record) {
+                         extra.add(iteration, record);
+                         genetic->add(iteration, record);
+                       });
   } catch (...) {
-    extra.discard();
+    discard();
     throw;
   }
   if (!results) {
-    extra.discard();
+    discard();
     return {"", true};
   }
   try {
     extra.close();
+    genetic->close();
   } catch (...) {
-    extra.discard();
+    discard();
     throw;
   }
   const report::Outcome outcome{model, *results, tables, seed, date};
@@ -113,23 +125,49 @@ std::int64_t TotalIterations(const ProjectDocument& project, const std::vector<s
   return total;
 }
 
+std::uint64_t DrawnSeed() { return std::random_device{}() ^ (std::uint64_t(std::random_device{}()) << 32); }
+
+std::string Plural(std::size_t count, const char* noun) {
+  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+constexpr char kSummaryFields[] =
+    " (scenario;years;iterations;Det.r;Stoch.r;SD(r);P(extinct);N[extant];SD;N[all];SD;GeneDiv;SD;Inbreeding;"
+    "#Alleles;MedianTE;MeanTE): ";
+
+// What the run takes up: a normal run starts afresh; a resumed run goes on
+// with the unfinished run's seed and skips what it finished; a stepwise run
+// goes on with its own unfinished run of the same scenarios, or starts one.
+UnfinishedRun TakeUp(const std::string& title, const std::vector<std::string>& names, const Options& options) {
+  const std::optional<UnfinishedRun> kept = options.runMode.empty() ? std::nullopt : ReadUnfinishedRun(".", title);
+  if (options.runMode == "+" && !kept)
+    throw SimError("there is no unfinished run of this project to resume; use Run");
+  if (options.runMode == "+" || (kept && kept->scenarios == names)) {
+    UnfinishedRun run = *kept;
+    run.scenarios = names;
+    if (options.seed) run.seed = *options.seed;
+    return run;
+  }
+  return {options.seed ? *options.seed : DrawnSeed(), names, {}};
+}
+
 std::string Run(const std::string& workFile, const std::string& bracedList, const std::string& optionText) {
   const ProjectDocument project = ReadWorkFile(workFile);
   const std::vector<std::string> names = ScenarioNames(bracedList);
   if (names.empty()) throw SimError("no scenario was named to run");
   const Options options = ParseOptions(optionText);
-  // Refused rather than run as a normal run, which the user did not ask for.
-  if (!options.runMode.empty())
-    throw SimError(std::string("the ") + (options.runMode == "+" ? "resumed" : "stepwise") +
-                   " run is not available in this engine yet; use Run");
-  const std::uint64_t seed = options.seed ? *options.seed : std::random_device{}() ^ (std::uint64_t(std::random_device{}()) << 32);
-  RunMonitor::get().start(TotalIterations(project, names));
+  const std::string& title = project.title;
+  UnfinishedRun run = TakeUp(title, names, options);
+  const bool stepwise = options.runMode == "META";
+  const std::vector<std::string> now = ScenariosToRun(".", title, names, options.runMode);
+  WriteUnfinishedRun(".", title, run);
+  RunMonitor::get().start(TotalIterations(project, now));
   std::string summary;
-  for (const std::string& name : names) {
+  for (const std::string& name : now) {
     const clsScenario& scenario = FindScenario(project, name);
     Finished finished;
     try {
-      finished = RunOne(project, scenario, options, seed);
+      finished = RunOne(project, scenario, options, run.seed);
     } catch (const SimError& fault) {
       throw SimError("scenario \"" + name + "\": " + fault.what());
     }
@@ -137,10 +175,17 @@ std::string Run(const std::string& workFile, const std::string& bracedList, cons
       return "Error: the run was cancelled during scenario \"" + name + "\"" +
              (summary.empty() ? std::string() : "; finished before it: " + summary);
     summary += (summary.empty() ? "" : " | ") + finished.line;
+    run.finished.push_back(name);
+    WriteUnfinishedRun(".", title, run);
   }
-  return "Message: " + std::to_string(names.size()) + (names.size() == 1 ? " scenario" : " scenarios") +
-         " run with seed " + std::to_string(seed) + " (scenario;years;iterations;Det.r;Stoch.r;SD(r);P(extinct);"
-         "N[extant];SD;N[all];SD;GeneDiv;SD;Inbreeding;#Alleles;MedianTE;MeanTE): " + summary;
+  if (!run.next()) ForgetUnfinishedRun(".", title);
+  const std::string seed = " with seed " + std::to_string(run.seed);
+  if (stepwise)
+    return "Message: step " + std::to_string(run.finished.size()) + " of " + std::to_string(names.size()) +
+           (now.empty() ? ": every scenario was already run" + seed : ", scenario run" + seed + kSummaryFields + summary);
+  const std::size_t kept = names.size() - now.size();
+  return "Message: " + Plural(now.size(), "scenario") + " run" + seed +
+         (kept > 0 ? " (" + Plural(kept, "scenario") + " finished before kept)" : "") + kSummaryFields + summary;
 }
 
 }  // namespace

@@ -179,12 +179,13 @@ double SimContext::indexed(IndexedVar var, double argument) {
   }
 }
 
-// KIN(a;b): 0 unless both are alive.
+// KIN(a;b): 0 unless both are alive. Exact while the iteration keeps the kinship matrix.
 double SimContext::kinship(double first, double second) {
   const auto a = slotOf(first);
   const auto b = slotOf(second);
   if (!a || !b) return 0.0;
-  return world_.genomes.kinship(*a, *b);
+  world_.kinship.settle();
+  return world_.kinship.exact() ? world_.kinship.at(*a, *b) : world_.genomes.kinship(*a, *b);
 }
 
 double SimContext::seededUniform(double seed) { return Unit(Key(runSeed_, seed)); }

@@ -22,5 +22,11 @@ void TruncateToCapacity(World& world);
 
 // A new unrelated individual (no parents, not inbred) of a population.
 Individual MakeFounder(World& world, int sex, int age, int population, Origin origin);
+// The genome of a new founder: new alleles, or neutral ones drawn from the
+// allele frequencies; unrelated to everyone in the kinship matrix.
+std::uint32_t FounderGenome(World& world, std::uint8_t& lethals);
+// The living animals of the studbook join their populations, their genomes
+// dropped through the pedigree from its founders.
+void FoundFromStudbook(const Model& model, World& world);
 
 }  // namespace tamsic::sim

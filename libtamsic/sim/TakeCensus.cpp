@@ -28,7 +28,8 @@ void ClearIfExtinct(const Model& m, World& world, PopulationState& pop) {
 void TakeCensus(const Model& m, World& world, IterationRecord& record) {
   Recount(m, world);
   const GenomePool& g = world.genomes;
-  const std::size_t table = static_cast<std::size_t>(g.shape().neutralLoci) * g.alleleCount();
+  const TalliedLoci loci{m.genetics.talliedFirst, m.genetics.talliedFirst + m.genetics.talliedLoci};
+  const std::size_t table = static_cast<std::size_t>(loci.end) * g.alleleCount();
   const bool sorting = table > kLargestTable;
   if (!sorting) world.alleleCounts.resize(2 * table);
   std::uint32_t* own = sorting ? nullptr : world.alleleCounts.data();
@@ -46,12 +47,12 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
         tally.add(ind);
         if (inMeta) metaTally.add(ind);
       }
-      CountBySorting(g, &pop, &pop + 1, world.alleleCounts, tally);
+      CountBySorting(g, loci, &pop, &pop + 1, world.alleleCounts, tally);
     } else {
-      CountByTable(g, pop, own, tally, inMeta ? meta : nullptr, inMeta ? &metaTally : nullptr);
+      CountByTable(g, loci, pop, own, tally, inMeta ? meta : nullptr, inMeta ? &metaTally : nullptr);
     }
     Census& census = record.at(p, world.year);
-    tally.store(g.shape().neutralLoci, census);
+    tally.store(loci.count(), census);
     census.extinct = pop.extinct;
     pop.geneDiversity = census.geneDiversity;
     if (world.year == 0) pop.initialGeneDiversity = census.geneDiversity;
@@ -59,10 +60,10 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
   }
   if (m.populations == 1) return;
   const PopulationState* pops = world.pops.data();
-  if (sorting) CountBySorting(g, pops, pops + tallied, world.alleleCounts, metaTally);
-  else Settle(g, pops, pops + tallied, meta, metaTally, nullptr);
+  if (sorting) CountBySorting(g, loci, pops, pops + tallied, world.alleleCounts, metaTally);
+  else Settle(g, loci, pops, pops + tallied, meta, metaTally, nullptr);
   Census& census = record.at(m.populations, world.year);
-  metaTally.store(g.shape().neutralLoci, census);
+  metaTally.store(loci.count(), census);
   census.extinct = Extinct(m, census.n, females, males);
 }
 

@@ -6,9 +6,11 @@
 #include <cstdint>
 #include <vector>
 
+#include "sim/Distribution.h"
 #include "sim/Genome.h"
 #include "sim/Individual.h"
 #include "sim/IndividualStates.h"
+#include "sim/Kinship.h"
 #include "sim/Random.h"
 #include "sim/Record.h"
 
@@ -52,6 +54,9 @@ struct World {
 
   Random random;
   GenomePool genomes;
+  KinshipMatrix kinship;  // kept exact for a studbook or the management of pairs
+  // Neutral alleles of founders by locus, when they are drawn from frequencies.
+  const std::vector<Discrete>* founderAlleles = nullptr;
   std::vector<PopulationState> pops;
   std::uint32_t nextId = 1;
   int iteration = 1;

@@ -28,6 +28,18 @@ sed 's/"Northern ridge";"65";"10"/"Northern ridge";"=65*(N";"10"/' "$work/K.tpj"
 "$cli" run "$work/bad.tpj" --scenario Baseline > /dev/null 2> "$work/err"
 [ $? -eq 1 ] && grep -q 'Error: scenario "Baseline": RepRates1, Northern ridge' "$work/err" || fail "function that does not compile"
 
+# A run that failed part way goes on with --resume: the scenario finished
+# keeps its files, the one that failed runs, and the record of the run goes.
+awk '/^RepRates1=/ { n++; if (n == 2) sub(/"Northern ridge";"65"/, "\"Northern ridge\";\"=65*(N\"") } { print }' \
+  "$work/K.tpj" > "$work/half.tpj"
+"$cli" run "$work/half.tpj" --scenario Baseline --scenario Managed > /dev/null 2> "$work/err"
+[ $? -eq 1 ] && [ -f "$work/Koalas in three fragments.resume" ] || fail "a failed run keeps its record"
+"$cli" run "$work/K.tpj" --scenario Baseline --scenario Managed --resume > "$work/out" 2> "$work/err" || fail "resume"
+grep -q '^Managed;10;6;' "$work/out" && ! grep -q '^Baseline;' "$work/out" || fail "resume runs only what was left"
+[ ! -f "$work/Koalas in three fragments.resume" ] || fail "a finished run leaves no record"
+"$cli" run "$work/K.tpj" --resume > /dev/null 2> "$work/err"
+[ $? -eq 1 ] && grep -q 'no unfinished run' "$work/err" || fail "nothing to resume"
+
 # SIGTERM stops a run as Ctrl+C does: the engine is asked to stop, and the
 # reply says the run was cancelled. The loop waits for the first progress
 # bar without sleeping.

@@ -20,6 +20,7 @@
 #include "engine/ui/TextOutputPage.h"
 #include "engine/ui/frmRunProgress.h"
 #include "engine/ui/frmSimRun.h"
+#include "files/UnfinishedRun.h"
 #include "files/ProjectFile.h"
 #include "pages/ui/frmProject.h"
 #include "results/ui/ResultsPage.h"
@@ -219,6 +220,45 @@ class RunAndResultsTest : public QObject {
     QVERIFY(!project->state().Changed());
   }
 
+
+  // Stepwise: one scenario at a time, asking before the next; stopping there
+  // leaves the rest for Resume Run, which keeps what was finished.
+  void aStepwiseRunStopsWhenAskedAndResumeRunsTheRest() {
+    QTemporaryDir folder;
+    TestProgram t;
+    mdiMain frame(t.program);
+    frmProject* project = frame.openProject(SmallCopy(folder, "Koalas.tpj", 10, 20));
+    QVERIFY(project != nullptr);
+    const std::filesystem::path results = folder.path().toStdString();
+    const std::string title = project->state().document.title;
+    const auto dat = [&](const char* scenario) {
+      return QString::fromStdString(
+          tamsic::ScenarioOutputFile(results, title, scenario, tamsic::ScenarioOutput::YearlyData).string());
+    };
+    WhenShown<frmSimRun>([](frmSimRun& dialog) {
+      Check(dialog, {0, 1, 2});
+      Click(dialog, "StepWiseCommand");
+    });
+    // After each scenario, its name and the question.
+    t.box.expect(t.strings.text(8214) + "Baseline", tamsic::MsgAnswer::Yes);
+    t.box.expect(t.strings.text(8214) + "Managed", tamsic::MsgAnswer::No);
+    frame.findChild<QAction*>("mniRunSim")->trigger();
+    QVERIFY(t.box.allShown());
+    QVERIFY(QFile::exists(dat("Baseline")) && QFile::exists(dat("Managed")));
+    QVERIFY(!QFile::exists(dat("Isolated")));
+    QVERIFY(std::filesystem::exists(tamsic::UnfinishedRunFile(results, title)));
+
+    const QByteArray baseline = ReadFile(dat("Baseline"));
+    WhenShown<frmSimRun>([](frmSimRun& dialog) {
+      Check(dialog, {0, 1, 2});
+      Click(dialog, "cmdResumeRun");
+    });
+    frame.findChild<QAction*>("mniRunSim")->trigger();
+    QVERIFY(t.box.shown.size() == 2);
+    QVERIFY(QFile::exists(dat("Isolated")));
+    QCOMPARE(ReadFile(dat("Baseline")), baseline);
+    QVERIFY(!std::filesystem::exists(tamsic::UnfinishedRunFile(results, title)));
+  }
 };
 
 QTEST_MAIN(RunAndResultsTest)

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <filesystem>
 #include <map>
+#include <numeric>
 
 #include "SimTestSupport.h"
 #include "sim/LifeTable.h"
@@ -72,6 +73,18 @@ TEST(SimChecks, DeterministicGrowthIsTheDominantEigenvalue) {
   const Eigen::VectorXd v = solver.eigenvectors().col(best).real();
   for (int x = 1; x < 10; ++x)
     EXPECT_NEAR(v[x] / v[0], table.stable[0][static_cast<std::size_t>(x)] / table.stable[0][0], 1e-6);
+}
+
+// Every class equally likely, fewer individuals than classes: the places go
+// to both sexes in turn, not all to the females listed first.
+TEST(SimChecks, StableNumbersShareTiedPlacesBetweenTheSexes) {
+  sim::LifeTable table;
+  table.maxAge = 40;
+  for (auto& shares : table.stable) shares.assign(40, 1.0 / 80);
+  std::vector<int> numbers[2];
+  sim::StableNumbers(table, 40, numbers);
+  EXPECT_EQ(std::accumulate(numbers[0].begin(), numbers[0].end(), 0), 20);
+  EXPECT_EQ(std::accumulate(numbers[1].begin(), numbers[1].end(), 0), 20);
 }
 
 TEST(SimChecks, StochasticGrowthAgreesWithTheLifeTable) {

@@ -79,7 +79,8 @@ SimScenario& SimScenario::option(Field chosen) {
       {"optExtinctDef_0", "optExtinctDef_1"},
       {"optMPHLQ_0", "optMPHLQ_1", "optMPHLQ_2", "optMPHLQ_3", "optMPHLQ_4"},
       {"optUseMean_0", "optUseMean_1"},
-      {"optStartWith_0", "optStartWith_1"}};
+      {"optStartWith_0", "optStartWith_1"},
+      {"GTallyOptButton_0", "GTallyOptButton_1", "GTallyOptButton_2"}};
   for (const auto& group : groups)
     for (const char* member : group)
       if (*FieldByMember(member) == chosen)
@@ -152,6 +153,8 @@ RunOutput RunScenario(const std::vector<SimScenario>& scenarios, const std::stri
   out.living = ReadAll(folder / ("T_" + name + ".liv"));
   out.created = ReadAll(folder / ("T_" + name + ".all"));
   out.census = ReadAll(folder / ("T_" + name + ".cen"));
+  out.genePop = ReadAll(folder / ("T_" + name + ".gen"));
+  out.alleleFrequencies = ReadAll(folder / ("T_" + name + ".frq"));
   for (const SimScenario& s : scenarios)
     if (s.scenario().Text(F("txtSceneName")) == name)
       out.blocks = ReadBlocks(dat, name, std::stoi(s.scenario().Text(F("txtNumYear"))));

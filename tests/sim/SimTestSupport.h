@@ -44,6 +44,7 @@ struct RunOutput {
   std::string files;  // .dat, .run and .sum joined, for comparisons
   std::string runTable;
   std::string living, created, census;  // the extra files .liv, .all and .cen ("" when not written)
+  std::string genePop, alleleFrequencies;  // the genetic files .gen and .frq ("" when not written)
 };
 
 // Saves the scenarios as project "T" (T.tpj) in a fresh folder, which the caller removes.

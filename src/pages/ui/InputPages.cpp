@@ -13,6 +13,7 @@
 #include "model/ScenarioShape.h"
 #include "pages/AfterEdit.h"
 #include "pages/InputHelpers.h"
+#include "pages/MatesEquivalents.h"
 #include "pages/ui/CarryingCapacityPage.h"
 #include "pages/ui/CatastrophesPage.h"
 #include "pages/ui/CopyInputValues.h"
@@ -186,6 +187,7 @@ void InputPages::commit(int page) {
   if (after == before) return;
   tamsic::WarnAboutRateFunctions(before, after, context_.messages);
   spreadByStableAges(before, after);
+  matchMatesMeasures(before, after);
   scenarios_.Item(current_) = after;
   if (after != stored) restorePages(after);
   else applyCrossPageRules(after);
@@ -199,6 +201,13 @@ void InputPages::spreadByStableAges(const tamsic::clsScenario& before, tamsic::c
   if (!after.Truth(stable) || before.Truth(stable) || !context_.stableAgeDistribution) return;
   if (const auto error = context_.stableAgeDistribution(after, current_))
     context_.messages.show(*error, tamsic::msg::kError, tamsic::MsgIcon::Critical);
+}
+
+// A measure of mate monopolization typed for a population gives the other two.
+void InputPages::matchMatesMeasures(const tamsic::clsScenario& before, tamsic::clsScenario& after) {
+  if (!context_.matesEquivalents || !tamsic::MatesMeasureChanged(before, after)) return;
+  if (const auto error = context_.matesEquivalents(before, after, current_))
+    context_.messages.show(*error, tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation);
 }
 
 void InputPages::copyInputValues(int from, bool allSections) {

@@ -82,6 +82,7 @@ class InputPages : public QWidget {
   void wire();
   void commit(int page);
   void copyInputValues(int from, bool allSections);
+  void matchMatesMeasures(const tamsic::clsScenario& before, tamsic::clsScenario& after);
   void spreadByStableAges(const tamsic::clsScenario& before, tamsic::clsScenario& after);
   void applyCrossPageRules(const tamsic::clsScenario& record);
   // The text box or cell editor of these pages that has the focus, if any.

@@ -24,6 +24,12 @@ struct PageContext {
   // (the window saves the project for the engine); answers the error, if any.
   std::function<std::optional<std::string>(tamsic::clsScenario& record, std::size_t number)> stableAgeDistribution =
       nullptr;
+  // Works out the two other mate-monopolization measures of each population
+  // whose one measure changed from `before` (the window saves the project for
+  // the engine); answers the error, if any.
+  std::function<std::optional<std::string>(const tamsic::clsScenario& before, tamsic::clsScenario& after,
+                                           std::size_t number)>
+      matesEquivalents = nullptr;
   // The user's decimal separator: numbers pasted from their spreadsheets may use a comma.
   char decimalSeparator = '.';
 

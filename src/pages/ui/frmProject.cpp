@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include "model/Errors.h"
+#include "model/TextSplit.h"
 #include "app/ui/Program.h"
 #include "engine/OutputFiles.h"
 #include "engine/SpecialOptionsFlags.h"
@@ -30,6 +31,9 @@
 #include "functions/ui/frmEquation.h"
 #include "functions/ui/frmEquationPreview.h"
 #include "notes/NoteCoding.h"
+#include "engine/EmptyStart.h"
+#include "files/UnfinishedRun.h"
+#include "pages/MatesEquivalents.h"
 #include "pages/StableAgeDistribution.h"
 #include "pages/ui/FlowLayout.h"
 #include "pages/ui/GridView.h"
@@ -85,7 +89,15 @@ frmProject::frmProject(Program& program, tamsic::ProjectState state, QWidget* pa
     preview.exec();
   };
   context_.stableAgeDistribution = [this](tamsic::clsScenario& record, std::size_t number) {
-    return stableAgeDistribution(record, number);
+    return askAboutRecord(record, number, [&](const std::string& work) {
+      return tamsic::ApplyStableAgeDistribution(record, number, work, engine_);
+    });
+  };
+  context_.matesEquivalents = [this](const tamsic::clsScenario& before, tamsic::clsScenario& after,
+                                     std::size_t number) {
+    return askAboutRecord(after, number, [&](const std::string& work) {
+      return tamsic::ApplyMatesEquivalents(before, after, number, work, engine_);
+    });
   };
   inputPages_ = new InputPages(context_, state_.document.scenarios, *undo_, this);
   stbProject_ = new QStatusBar(this);
@@ -374,13 +386,14 @@ std::optional<std::filesystem::path> frmProject::saveWorkFile(const tamsic::Proj
 
 // The engine reads the scenario from a saved copy of the project that holds
 // the record as it is about to be stored.
-std::optional<std::string> frmProject::stableAgeDistribution(tamsic::clsScenario& record, std::size_t number) {
+std::optional<std::string> frmProject::askAboutRecord(tamsic::clsScenario& record, std::size_t number,
+                                                      const RecordQuestion& question) {
   try {
     tamsic::ProjectDocument copy = state_.document;
     copy.scenarios.Item(number) = record;
     const auto work = tamsic::CreateWorkFile(QCoreApplication::applicationDirPath().toStdString());
     tamsic::SaveProject(copy, work.string(), program_.messages);
-    auto error = tamsic::ApplyStableAgeDistribution(record, number, work.string(), engine_);
+    auto error = question(work.string());
     std::error_code ignored;
     std::filesystem::remove(work, ignored);
     return error;
@@ -425,8 +438,7 @@ std::optional<std::string> frmProject::deterministicValues(std::size_t number) {
 
 // The run dialog chooses; the project goes to the engine as a saved copy, and
 // the engine writes its files into the results folder, made the current
-// directory. The call runs on a thread of its own under a progress dialog
-// when the engine can report progress, else under the hourglass.
+// directory. A stepwise run asks before each next scenario.
 void frmProject::runSimulation(const std::vector<std::size_t>& preselected) {
   inputPages_->commitPending();
   const auto& scenarios = state_.document.scenarios;
@@ -437,44 +449,89 @@ void frmProject::runSimulation(const std::vector<std::size_t>& preselected) {
   dialog.check(preselected);
   if (dialog.exec() != QDialog::Accepted) return;
   freshAnalysis_ = true;
-  // The summary keeps no line of an earlier run of a scenario run again; the
-  // engine adds the new line when the scenario is done.
-  try {
-    for (std::size_t entry : dialog.runList().checked)
-      tamsic::PruneSummary(tamsic::ResultsFolder(state_), state_.document.title,
-                           scenarios.Item(entry + 1).Text(tamsic::F("txtSceneName")));
-  } catch (const tamsic::FileError& error) {
-    program_.messages.show(error.what(), tamsic::msg::kError, tamsic::MsgIcon::Critical);
-    return;
+  const std::string mode = dialog.runMode().toStdString();
+  std::vector<std::string> checked;
+  for (std::size_t entry : dialog.runList().checked)
+    checked.push_back(std::string(tamsic::Trim(scenarios.Item(entry + 1).Text(tamsic::F("txtSceneName")))));
+  if (!startsAcceptable(checked)) return;
+  const std::string folder = tamsic::ResultsFolder(state_);
+  // A new run's summary keeps no line of an earlier run of a scenario run again (the engine adds
+  // the new line when the scenario is done); a run taken up again keeps the lines of those finished.
+  if (mode.empty()) {
+    try {
+      for (const std::string& name : checked) tamsic::PruneSummary(folder, state_.document.title, name);
+    } catch (const tamsic::FileError& error) {
+      program_.messages.show(error.what(), tamsic::msg::kError, tamsic::MsgIcon::Critical);
+      return;
+    }
   }
+  for (;;) {
+    const std::vector<std::string> now = tamsic::ScenariosToRun(folder, state_.document.title, checked, mode);
+    const std::optional<std::string> reply = runOnce(dialog.runList().names, mode, now);
+    tellRunOutcome(reply);
+    resultsChanged();
+    if (mode != "META" || !reply || !reply->starts_with("Message") || !stepsLeft()) return;
+    const std::string next = program_.strings.text(8214) + tamsic::Cp1252ToUtf8(now.empty() ? "" : now.front()) +
+                             "\n\n" + program_.strings.text(8222);
+    if (program_.messages.show(next, tamsic::msg::kConfirmation, tamsic::MsgIcon::Question,
+                               tamsic::MsgButtons::YesNo) != tamsic::MsgAnswer::Yes)
+      return;
+  }
+}
+
+// Populations that start empty are extinct at once; the user says whether that is meant.
+bool frmProject::startsAcceptable(const std::vector<std::string>& names) {
+  std::string list;
+  for (const std::string& name : names) {
+    const std::size_t number = state_.document.scenarios.Find(name);
+    if (number == 0) continue;
+    const std::vector<std::string> empty = tamsic::PopulationsStartingEmpty(state_.document.scenarios.Item(number));
+    if (empty.empty()) continue;
+    list += "\n" + name + ": " + empty.front();
+    for (std::size_t p = 1; p < empty.size(); ++p) list += ", " + empty[p];
+  }
+  if (list.empty()) return true;
+  return program_.messages.show(program_.strings.text(8223) + "\n" + tamsic::Cp1252ToUtf8(list),
+                                tamsic::msg::kWarning, tamsic::MsgIcon::Exclamation,
+                                tamsic::MsgButtons::YesNo) == tamsic::MsgAnswer::Yes;
+}
+
+bool frmProject::stepsLeft() const {
+  try {
+    const auto kept = tamsic::ReadUnfinishedRun(tamsic::ResultsFolder(state_), state_.document.title);
+    return kept && kept->next();
+  } catch (const tamsic::FileError&) {
+    return false;
+  }
+}
+
+// One call of the engine, on a thread of its own under a progress dialog
+// when the engine can report progress, else under the hourglass.
+std::optional<std::string> frmProject::runOnce(const std::string& list, const std::string& mode,
+                                               const std::vector<std::string>& scenarios) {
   const auto work = saveWorkFile(state_.document);
-  if (!work) return;
+  if (!work) return std::nullopt;
   QDir::setCurrent(QString::fromStdString(tamsic::ResultsFolder(state_)));
-  const tamsic::basSimulation::RunRequest request{*work, dialog.runList().names,
-                                                  tamsic::Flags(state_.document.specialOptions),
-                                                  dialog.runMode().toStdString()};
+  const tamsic::basSimulation::RunRequest request{*work, list, tamsic::Flags(state_.document.specialOptions), mode};
   bool watchable = false;
   try {
     watchable = engine_.progress().has_value();
   } catch (const std::exception&) {
     // Without the library the call below fails and says why.
   }
-  std::optional<std::string> reply;
-  if (watchable) {
-    std::vector<frmRunProgress::Scenario> chosen;
-    for (std::size_t entry : dialog.runList().checked) {
-      const auto& record = scenarios.Item(entry + 1);
-      chosen.push_back({FromFile(record.Text(tamsic::F("txtSceneName"))).trimmed(),
-                        std::atol(record.Text(tamsic::F("txtNumIter")).c_str())});
-    }
-    frmRunProgress progress(program_, engine_, request, std::move(chosen), this);
-    reply = tamsic::basSimulation::Conclude(program_.messages, request, progress.run());
-  } else {
+  if (!watchable) {
     WaitCursor cursor;
-    reply = tamsic::basSimulation::Run(engine_, cursor, program_.messages, request);
+    return tamsic::basSimulation::Run(engine_, cursor, program_.messages, request);
   }
-  tellRunOutcome(reply);
-  resultsChanged();
+  std::vector<frmRunProgress::Scenario> chosen;
+  const auto& all = state_.document.scenarios;
+  for (const std::string& name : scenarios) {
+    const std::size_t number = all.Find(name);
+    if (number == 0) continue;
+    chosen.push_back({FromFile(name).trimmed(), std::atol(all.Item(number).Text(tamsic::F("txtNumIter")).c_str())});
+  }
+  frmRunProgress progress(program_, engine_, request, std::move(chosen), this);
+  return tamsic::basSimulation::Conclude(program_.messages, request, progress.run());
 }
 
 // A reply other than "Message" is the engine's word on what went wrong.

@@ -104,7 +104,13 @@ class frmProject : public QWidget {
   // The user name chosen from the project's users; -1 when there are none or the user cancels.
   int chooseUserName();
   QString text(int number) const;
-  std::optional<std::string> stableAgeDistribution(tamsic::clsScenario& record, std::size_t number);
+  std::optional<std::string> runOnce(const std::string& list, const std::string& mode,
+                                     const std::vector<std::string>& scenarios);
+  bool stepsLeft() const;
+  bool startsAcceptable(const std::vector<std::string>& names);
+  using RecordQuestion = std::function<std::optional<std::string>(const std::string& workFile)>;
+  std::optional<std::string> askAboutRecord(tamsic::clsScenario& record, std::size_t number,
+                                            const RecordQuestion& question);
   // The project as it stands saved to a fresh work file for the engine; nothing when that failed (the user was told).
   std::optional<std::filesystem::path> saveWorkFile(const tamsic::ProjectDocument& document);
   using EngineQuestion = std::function<std::string(const std::string& checkInText)>;
