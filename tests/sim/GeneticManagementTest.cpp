@@ -3,7 +3,6 @@
 // inbreeding down, breeding to K breeds no more than needed; and the genetic
 // inputs and output files mean what they say.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cmath>
 #include <fstream>
@@ -11,6 +10,7 @@
 #include <regex>
 
 #include "SimTestSupport.h"
+#include "support/TestFolder.h"
 #include "sim/Kinship.h"
 #include "sim/Steps.h"
 
@@ -119,12 +119,13 @@ TEST(SimGeneticManagement, EstimatedMeanKinshipFollowsThePedigree) {
 }
 
 TEST(SimGeneticManagement, FounderAllelesTallyAndGeneticFiles) {
-  const auto file = std::filesystem::temp_directory_path() / ("tamsic-" + std::to_string(::getpid()) + "-af.txt");
+  const TestFolder folder;
+  const std::string file = folder.file("frequencies.txt");
   std::ofstream(file) << "0.5 0.5\n0.25 0.25 0.25 0.25\n0.1 0.2 0.3 0.4\n";
   auto scenario = [&](const std::string& name, Field tally) {
     SimScenario s(name, 1, 40, 40);
     s.text(F("txtNumIter"), "20").text(F("txtNumYear"), "5").text(F("txtGenMgtNumNeutralLoci"), "3");
-    return s.check(F("chkGenMgtAlleleFreqs")).text(F("txtGenMgtAlleleFreqs"), file.string()).option(tally);
+    return s.check(F("chkGenMgtAlleleFreqs")).text(F("txtGenMgtAlleleFreqs"), file).option(tally);
   };
   SimScenario all = scenario("All", F("GTallyOptButton_2"));
   all.check(F("chkGenMgtOutputGenePop")).check(F("chkGenMgtOutputAlleleFreq"));
@@ -160,7 +161,6 @@ TEST(SimGeneticManagement, FounderAllelesTallyAndGeneticFiles) {
   EXPECT_EQ(sums.size(), 20u * 3);
   EXPECT_EQ((sums[{"1", "2"}].first), 2.0 * static_cast<double>(finalN));
   for (const auto& [key, sum] : sums) EXPECT_NEAR(sum.second, 1.0, 1e-4);
-  std::filesystem::remove(file);
 }
 
 }  // namespace
