@@ -62,6 +62,25 @@ TEST(SimGeneticManagement, PreventingCloseMatingsHoldsInbreedingBelowTheLevel) {
   for (const auto& fields : living) EXPECT_LE(std::stod(fields[7]), 0.25);
 }
 
+TEST(SimGeneticManagement, TheLowerLevelAppliesAndOptionsThatCannotApplyAreRefused) {
+  SimScenario both = Small("Both");
+  both.text(F("txtNumYear"), "30").check(F("chkGenMgtPreventMatingsF"));
+  both.text(F("txtGenMgtPreventMatingsF"), "0.5").text(F("txtGenMgtPairingLimitation"), "0.25");
+  const RunOutput out = RunScenario({both}, "Both", "SEED6;A");
+  ASSERT_FALSE(DataLines(out.living).empty()) << out.reply;
+  for (const auto& fields : DataLines(out.living)) EXPECT_LE(std::stod(fields[7]), 0.25);
+
+  SimScenario noLevel = Small("NoLevel");
+  noLevel.check(F("chkGenMgtPreventMatingsF"));
+  SimScenario selfing = Small("Herm");
+  selfing.option(F("optMPHLQ_2")).check(F("chkGenMgtPairMeanKinship"));
+  SimScenario oneLocus = Small("OneLocus");
+  oneLocus.text(F("txtGenMgtNumNeutralLoci"), "1").option(F("GTallyOptButton_1"));
+  EXPECT_NE(RunScenario({noLevel}, "NoLevel", "").reply.find("PreventMatingsFValue: "), std::string::npos);
+  EXPECT_NE(RunScenario({selfing}, "Herm", "").reply.find("PairMeanKinship: "), std::string::npos);
+  EXPECT_NE(RunScenario({oneLocus}, "OneLocus", "").reply.find("NotLocus1: "), std::string::npos);
+}
+
 TEST(SimGeneticManagement, ManagedBreedingBreedsOnlyWhatKAndTheMateLimitAllow) {
   // Polygamous, 100 at K 100: unmanaged, the young far outnumber the places.
   auto base = [](const std::string& name) {
