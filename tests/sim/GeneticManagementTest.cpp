@@ -3,7 +3,6 @@
 // inbreeding down, breeding to K breeds no more than needed; and the genetic
 // inputs and output files mean what they say.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cmath>
 #include <fstream>
@@ -11,6 +10,7 @@
 #include <regex>
 
 #include "SimTestSupport.h"
+#include "support/TestFolder.h"
 #include "sim/Kinship.h"
 #include "sim/Steps.h"
 
@@ -60,6 +60,25 @@ TEST(SimGeneticManagement, PreventingCloseMatingsHoldsInbreedingBelowTheLevel) {
   const auto living = DataLines(out.living);
   ASSERT_FALSE(living.empty());
   for (const auto& fields : living) EXPECT_LE(std::stod(fields[7]), 0.25);
+}
+
+TEST(SimGeneticManagement, TheLowerLevelAppliesAndOptionsThatCannotApplyAreRefused) {
+  SimScenario both = Small("Both");
+  both.text(F("txtNumYear"), "30").check(F("chkGenMgtPreventMatingsF"));
+  both.text(F("txtGenMgtPreventMatingsF"), "0.5").text(F("txtGenMgtPairingLimitation"), "0.25");
+  const RunOutput out = RunScenario({both}, "Both", "SEED6;A");
+  ASSERT_FALSE(DataLines(out.living).empty()) << out.reply;
+  for (const auto& fields : DataLines(out.living)) EXPECT_LE(std::stod(fields[7]), 0.25);
+
+  SimScenario noLevel = Small("NoLevel");
+  noLevel.check(F("chkGenMgtPreventMatingsF"));
+  SimScenario selfing = Small("Herm");
+  selfing.option(F("optMPHLQ_2")).check(F("chkGenMgtPairMeanKinship"));
+  SimScenario oneLocus = Small("OneLocus");
+  oneLocus.text(F("txtGenMgtNumNeutralLoci"), "1").option(F("GTallyOptButton_1"));
+  EXPECT_NE(RunScenario({noLevel}, "NoLevel", "").reply.find("PreventMatingsFValue: "), std::string::npos);
+  EXPECT_NE(RunScenario({selfing}, "Herm", "").reply.find("PairMeanKinship: "), std::string::npos);
+  EXPECT_NE(RunScenario({oneLocus}, "OneLocus", "").reply.find("NotLocus1: "), std::string::npos);
 }
 
 TEST(SimGeneticManagement, ManagedBreedingBreedsOnlyWhatKAndTheMateLimitAllow) {
@@ -119,12 +138,13 @@ TEST(SimGeneticManagement, EstimatedMeanKinshipFollowsThePedigree) {
 }
 
 TEST(SimGeneticManagement, FounderAllelesTallyAndGeneticFiles) {
-  const auto file = std::filesystem::temp_directory_path() / ("tamsic-" + std::to_string(::getpid()) + "-af.txt");
+  const TestFolder folder;
+  const std::string file = folder.file("frequencies.txt");
   std::ofstream(file) << "0.5 0.5\n0.25 0.25 0.25 0.25\n0.1 0.2 0.3 0.4\n";
   auto scenario = [&](const std::string& name, Field tally) {
     SimScenario s(name, 1, 40, 40);
     s.text(F("txtNumIter"), "20").text(F("txtNumYear"), "5").text(F("txtGenMgtNumNeutralLoci"), "3");
-    return s.check(F("chkGenMgtAlleleFreqs")).text(F("txtGenMgtAlleleFreqs"), file.string()).option(tally);
+    return s.check(F("chkGenMgtAlleleFreqs")).text(F("txtGenMgtAlleleFreqs"), file).option(tally);
   };
   SimScenario all = scenario("All", F("GTallyOptButton_2"));
   all.check(F("chkGenMgtOutputGenePop")).check(F("chkGenMgtOutputAlleleFreq"));
@@ -160,7 +180,6 @@ TEST(SimGeneticManagement, FounderAllelesTallyAndGeneticFiles) {
   EXPECT_EQ(sums.size(), 20u * 3);
   EXPECT_EQ((sums[{"1", "2"}].first), 2.0 * static_cast<double>(finalN));
   for (const auto& [key, sum] : sums) EXPECT_NEAR(sum.second, 1.0, 1e-4);
-  std::filesystem::remove(file);
 }
 
 }  // namespace

@@ -1,12 +1,12 @@
 // A studbook seeds the simulation with its living animals and the kinships
 // of their pedigree; broken input files are refused with the file and line.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <fstream>
 #include <map>
 
 #include "SimTestSupport.h"
+#include "support/TestFolder.h"
 #include "sim/Kinship.h"
 #include "sim/SimError.h"
 #include "sim/Studbook.h"
@@ -28,10 +28,9 @@ constexpr const char* kPedigree =
     "F1 M  S   D1  3 1 1\n"
     "P  M  H2  UNK 1 1 1\n";
 
-std::string WriteFile(const std::string& name, const std::string& text) {
-  const auto path = std::filesystem::temp_directory_path() / ("tamsic-" + std::to_string(::getpid()) + "-" + name);
-  std::ofstream(path, std::ios::binary) << text;
-  return path.string();
+std::string WriteFile(const TestFolder& folder, const std::string& name, const std::string& text) {
+  std::ofstream(folder.file(name), std::ios::binary) << text;
+  return folder.file(name);
 }
 
 SimScenario WithStudbook(const std::string& file) {
@@ -58,7 +57,8 @@ TEST(SimStudbook, KinshipsAndInbreedingFollowThePedigree) {
     EXPECT_EQ(book.animals[static_cast<std::size_t>(book.living[i])].inbreeding, id == "Z" ? 0.25f : 0.0f) << id;
 
   // The living start the simulation: N and the mean F of year 0 are theirs.
-  const RunOutput out = RunScenario({WithStudbook(WriteFile("herd.txt", kPedigree))}, "Studbook", "SEED3");
+  const TestFolder files;
+  const RunOutput out = RunScenario({WithStudbook(WriteFile(files, "herd.txt", kPedigree))}, "Studbook", "SEED3");
   ASSERT_TRUE(out.reply.starts_with("Message")) << out.reply;
   EXPECT_EQ(out.blocks[0][0][kAll], 5);
   EXPECT_NEAR(out.blocks[0][0][kInbreeding], 0.25 / 5, 1e-6);
@@ -78,6 +78,7 @@ TEST(SimStudbook, TheKinshipMatrixGivesWayPastItsLimit) {
 }
 
 TEST(SimStudbook, BrokenFilesAreRefusedWithFileAndLine) {
+  const TestFolder files;
   const std::string heading = "ID Sex Sire Dam Age Alive Population\n";
   const std::pair<std::string, std::string> studbooks[] = {
       {heading + "A M UNK UNK 3 1 1\nB F A X9 2 1 1\n", "line 3: the dam \"X9\" is not listed"},
@@ -90,7 +91,7 @@ TEST(SimStudbook, BrokenFilesAreRefusedWithFileAndLine) {
       {"ID Sex Sire Dam Alive Population\n", "line 1: the heading must name the columns"},
   };
   for (const auto& [text, cause] : studbooks) {
-    const std::string file = WriteFile("bad.txt", text);
+    const std::string file = WriteFile(files, "bad.txt", text);
     const std::string reply = RunScenario({WithStudbook(file)}, "Studbook", "").reply;
     EXPECT_TRUE(reply.starts_with("Error: scenario \"Studbook\": StudbookFile: the file " + file + ", ")) << reply;
     EXPECT_NE(reply.find(cause), std::string::npos) << reply;
@@ -105,7 +106,7 @@ TEST(SimStudbook, BrokenFilesAreRefusedWithFileAndLine) {
       {"1\n", "it gives frequencies for 1 of the scenario's 2 neutral loci"},
   };
   for (const auto& [text, cause] : frequencies) {
-    const std::string file = WriteFile("freq.txt", text);
+    const std::string file = WriteFile(files, "freq.txt", text);
     SimScenario s("Freq", 1, 20, 40);
     s.text(F("txtGenMgtNumNeutralLoci"), "2").check(F("chkGenMgtAlleleFreqs")).text(F("txtGenMgtAlleleFreqs"), file);
     const std::string reply = RunScenario({s}, "Freq", "").reply;
