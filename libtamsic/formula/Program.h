@@ -36,6 +36,7 @@ class Program {
   void evaluateBatch(EvalContext& context, std::size_t count, double* results) const;
 
   bool uses(Var var) const;
+  const std::vector<Var>& variables() const { return variables_; }
   const std::vector<Instruction>& code() const { return code_; }
 
  private:

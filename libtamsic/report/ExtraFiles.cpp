@@ -37,8 +37,11 @@ std::string Population(const sim::Model& m, int block) {
 ExtraFiles::ExtraFiles(const sim::Model& model, const std::string& project) : model_(model) {
   const sim::Options& o = model.options;
   try {
-    if (o.livingFile)
-      living_ = open(project, ".liv", "$Iteration;Population;ID;Dam;Sire;Sex;Age;Inbreeding;Lethals;Offspring;Mates");
+    if (o.livingFile) {
+      std::string heading = "$Iteration;Population;ID;Dam;Sire;Sex;Age;Inbreeding;Lethals;Offspring;Mates";
+      for (std::size_t k = 1; k <= model.individualStates.size(); ++k) heading += ";IS" + std::to_string(k);
+      living_ = open(project, ".liv", heading);
+    }
     if (o.createdFile)
       created_ = open(project, ".all",
                       "$Iteration;ID;Dam;Sire;Sex;Population;Year;Origin;Age;Inbreeding;Lethals;Last census alive");
@@ -55,7 +58,7 @@ ExtraFiles::ExtraFiles(const sim::Model& model, const std::string& project) : mo
 ExtraFiles::~ExtraFiles() = default;
 
 std::unique_ptr<TextFile> ExtraFiles::open(const std::string& project, const std::string& extension,
-                                           const char* heading) {
+                                           const std::string& heading) {
   paths_.push_back(ScenarioFile(project, model_.name, extension));
   auto file = std::make_unique<TextFile>(paths_.back());
   file->line(heading);
@@ -65,12 +68,17 @@ std::unique_ptr<TextFile> ExtraFiles::open(const std::string& project, const std
 void ExtraFiles::add(int iteration, const sim::IterationRecord& record) {
   const std::string it = std::to_string(iteration);
   const sim::Journal& j = record.journal;
+  const std::size_t states = model_.individualStates.size();
   if (living_)
-    for (const sim::LivingEntry& e : j.living) {
+    for (std::size_t n = 0; n < j.living.size(); ++n) {
+      const sim::LivingEntry& e = j.living[n];
       const sim::Individual& ind = e.individual;
-      living_->line(Join({it, std::to_string(e.population + 1), std::to_string(ind.id), std::to_string(ind.dam),
-                          std::to_string(ind.sire), Sex(model_, ind), std::to_string(ind.age), Num(ind.inbreeding),
-                          std::to_string(ind.lethals), std::to_string(ind.parity), std::to_string(ind.mates)}));
+      std::string line = Join({it, std::to_string(e.population + 1), std::to_string(ind.id), std::to_string(ind.dam),
+                               std::to_string(ind.sire), Sex(model_, ind), std::to_string(ind.age),
+                               Num(ind.inbreeding), std::to_string(ind.lethals), std::to_string(ind.parity),
+                               std::to_string(ind.mates)});
+      for (std::size_t k = 0; k < states; ++k) line += ";" + Num(j.livingStates[n * states + k]);
+      living_->line(line);
     }
   if (created_)
     for (const sim::CreatedEntry& e : j.created) {

@@ -31,7 +31,7 @@ class ExtraFiles {
   void discard();
 
  private:
-  std::unique_ptr<TextFile> open(const std::string& project, const std::string& extension, const char* heading);
+  std::unique_ptr<TextFile> open(const std::string& project, const std::string& extension, const std::string& heading);
 
   const sim::Model& model_;
   std::vector<std::string> paths_;

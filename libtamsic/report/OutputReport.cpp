@@ -25,6 +25,19 @@ void Rates(const Outcome& o, TextFile& file) {
   file.line();
 }
 
+// The final year's mean of each state variable of the block: PS1, ... of a population, GS1, ... of the metapopulation.
+void States(const Outcome& o, int block, TextFile& file) {
+  const bool population = block < o.model.populations;
+  const int count = population ? o.model.populationStates() : static_cast<int>(o.model.globalStates.size());
+  std::string line;
+  for (int v = 0; v < count; ++v) {
+    const sim::Moments& m = o.results.user(block, o.model.years, v);
+    line += (line.empty() ? "" : ", ") + std::string(population ? "PS" : "GS") + std::to_string(v + 1) + " " +
+            Num(m.mean()) + " (SD " + Num(m.sd()) + ")";
+  }
+  if (!line.empty()) file.line("State variables in the final year: " + line + ".");
+}
+
 void Block(const Outcome& o, int block, TextFile& file) {
   const sim::Results& r = o.results;
   file.line(o.blockName(block));
@@ -49,6 +62,7 @@ void Block(const Outcome& o, int block, TextFile& file) {
             Num(s.alleles.mean()) + ".");
   if (r.medianExtinction(block, last) > 0)
     file.line("Half of the iterations were extinct by year " + std::to_string(r.medianExtinction(block, last)) + ".");
+  States(o, block, file);
   file.line();
 }
 

@@ -3,7 +3,9 @@
 // line per year 0..NumYears: the year, the 30 result variables
 // (P[survive], its SE, P[extinction], its SE, Det.r, Stoch.r with SE and SD,
 // N[extant], N[all], GeneDiv, Inbreeding, #Alleles, #Lethals and TE, each
-// with SE and SD, and MedianTE), then mean, SE and SD of each user variable.
+// with SE and SD, and MedianTE), then mean, SE and SD over all iterations of
+// each user variable: PS1, PS2, ... in a population's block and GS1, GS2, ...
+// in the metapopulation's, 0 where the block has no such variable.
 #include <cmath>
 
 #include "report/Outcome.h"
@@ -36,8 +38,7 @@ std::string YearLine(const Outcome& o, int block, int year) {
   Triple(line, s.lethals);
   Triple(line, r.extinctionYears(block, year));
   line += ";" + std::to_string(r.medianExtinction(block, year));
-  // State variables come later; their columns hold 0 so that the layout is complete.
-  for (int v = 0; v < o.model.userVariables; ++v) line += ";0;0;0";
+  for (int v = 0; v < r.userVariables(); ++v) Triple(line, r.user(block, year, v));
   return line;
 }
 

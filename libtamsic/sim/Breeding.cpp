@@ -10,6 +10,7 @@
 
 #include "sim/Distribution.h"
 #include "sim/ManagedBreeding.h"
+#include "sim/StateVariables.h"
 #include "sim/Steps.h"
 
 namespace tamsic::sim {
@@ -35,15 +36,26 @@ BroodTables Tables(const Model& m, const PopulationModel& p, SimContext& context
   return {Discrete(1, broods), Discrete(0, progeny)};
 }
 
+// Whether the number of broods or young depends on the mother.
+bool BroodsPerMother(const Model& m, const PopulationModel& p) {
+  const auto each = [](const Rate& r) { return r.perIndividual(); };
+  return std::any_of(m.broodPercent.begin(), m.broodPercent.end(), each) ||
+         std::any_of(m.progenyPercent.begin(), m.progenyPercent.end(), each) ||
+         (m.broodByMeanSD && (each(p.broodMean) || each(p.broodSD)));
+}
+
 // Members (by index) who take part: breeding females in `mothers`, males of the pool in `pool`.
 void Candidates(const Model& m, const PopulationModel& p, PopulationState& pop, SimContext& context,
                 World& world, std::vector<std::uint32_t>& mothers, std::vector<std::uint32_t>& pool) {
   const YearConditions& year = pop.year;
-  const bool each = p.breeding.perIndividual();
-  const double mean = each ? 0.0 : p.breeding.value(context);
-  const double shift = p.breedingSD.value(context) * year.breedingDeviate;
-  const double breeding = Percent(mean + shift) * year.reproductionFactor;
-  const double inPool = Percent(p.malesInPool.value(context));
+  const bool each = p.breeding.perIndividual() || p.breedingSD.perIndividual();
+  const bool eachMale = p.malesInPool.perIndividual();
+  auto chanceOf = [&] {
+    return Percent(p.breeding.value(context) + p.breedingSD.value(context) * year.breedingDeviate) *
+           year.reproductionFactor;
+  };
+  const double breeding = each ? 0.0 : chanceOf();
+  const double inPool = eachMale ? 0.0 : Percent(p.malesInPool.value(context));
   // Written unconditionally and kept by advancing the end: whether a draw
   // succeeds cannot be predicted, and a mispredicted branch costs more.
   mothers.resize(pop.members.size());
@@ -53,15 +65,20 @@ void Candidates(const Model& m, const PopulationModel& p, PopulationState& pop, 
     const Individual& ind = pop.members[i];
     if (ind.age < m.firstBreeding[ind.sex]) continue;
     if (ind.sex == kMale) {
+      double joins = inPool;
+      if (eachMale) {
+        context.setIndividual(&ind);
+        joins = Percent(p.malesInPool.value(context));
+      }
       pool[inBreedingPool] = i;
-      inBreedingPool += world.random.chance(inPool);
+      inBreedingPool += world.random.chance(joins);
       continue;
     }
     if (!m.sexual()) pool[inBreedingPool++] = i;
     double chance = breeding;
     if (each) {
       context.setIndividual(&ind);
-      chance = Percent(p.breeding.value(context) + shift) * year.reproductionFactor;
+      chance = chanceOf();
     }
     mothers[breeders] = i;
     breeders += world.random.chance(chance);
@@ -110,10 +127,14 @@ void Pair(const Model& m, PopulationState& pop, World& world, std::vector<std::u
 // Parents' genomes are asked for a few mothers ahead of their births.
 constexpr std::size_t kAhead = 3;
 
+// kPerMother: the broods and young of each mother follow her own tables. Otherwise the tables are one
+// constant for the population, which keeps this loop as fast as it can be.
+template <bool kPerMother>
 void Births(const Model& m, const PopulationModel& p, int population, World& world, SimContext& context,
             const std::vector<std::uint32_t>& mothers, const std::vector<std::uint32_t>& sires) {
   PopulationState& pop = world.pops[static_cast<std::size_t>(population)];
-  const BroodTables tables = Tables(m, p, context);
+  const BroodTables shared = kPerMother ? BroodTables{} : Tables(m, p, context);
+  BroodTables own;
   const bool constantRatio = !m.sexRatio.perIndividual();
   const double maleShare = Percent(m.sexRatio.value(context));
   world.moving.clear();
@@ -129,6 +150,11 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
     if (mother.mate == 0 || m.mating == Mating::LongTermMonogamous || m.mating == Mating::LongTermPolygamous)
       mother.mate = father.id;
     if (father.mate == 0) father.mate = mother.id;
+    if constexpr (kPerMother) {
+      context.setIndividual(&mother);
+      own = Tables(m, p, context);
+    }
+    const BroodTables& tables = kPerMother ? own : shared;
     const int broods = tables.broods.draw(world.random);
     for (int b = 0; b < broods; ++b) {
       const int young = tables.progeny.draw(world.random);
@@ -159,6 +185,7 @@ void Births(const Model& m, const PopulationModel& p, int population, World& wor
       }
     }
   }
+  if (!m.individualStates.empty()) BirthStates(m, world, context, pop.members, mothers, world.moving);
   context.setIndividual(nullptr);
   world.kinship.settle();
   pop.members.insert(pop.members.end(), world.moving.begin(), world.moving.end());
@@ -179,7 +206,8 @@ void Breed(const Model& model, World& world, SimContext& context) {
       ManageBreeding(model, inputs, pop, world, context, world.scratchA, world.scratchB, sires);
     else
       Pair(model, pop, world, world.scratchA, world.scratchB, sires);
-    Births(model, inputs, p, world, context, world.scratchA, sires);
+    if (BroodsPerMother(model, inputs)) Births<true>(model, inputs, p, world, context, world.scratchA, sires);
+    else Births<false>(model, inputs, p, world, context, world.scratchA, sires);
   }
 }
 

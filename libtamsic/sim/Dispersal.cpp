@@ -13,10 +13,17 @@ namespace tamsic::sim {
 
 namespace {
 
+// Whether the chance to move, or to survive the move, depends on the disperser.
+bool PerDisperser(const Model& m, const PopulationModel& source) {
+  const auto each = [](const Rate& r) { return r.perIndividual(); };
+  return std::any_of(source.dispersal.begin(), source.dispersal.end(), each) || each(m.dispersalSurvival) ||
+         (m.dispersalModifier && each(*m.dispersalModifier));
+}
+
 // Cumulative chances of moving to each population from population p.
-std::vector<double> Destinations(const Model& m, const World& world, int p, SimContext& context) {
+void Destinations(const Model& m, const World& world, int p, SimContext& context, std::vector<double>& cumulative) {
   const PopulationModel& source = m.pops[static_cast<std::size_t>(p)];
-  std::vector<double> cumulative;
+  cumulative.clear();
   double total = 0.0;
   const bool tooFew = m.dispersalMinimum && world.pops[static_cast<std::size_t>(p)].counts.n < *m.dispersalMinimum;
   for (int q = 0; q < m.populations; ++q) {
@@ -33,7 +40,10 @@ std::vector<double> Destinations(const Model& m, const World& world, int p, SimC
   // Rates from functions may add up to more than 100 %: scale them down to certainty.
   if (total > 1.0)
     for (double& c : cumulative) c /= total;
-  return cumulative;
+}
+
+double SurvivalOfMove(const Model& m, SimContext& context) {
+  return std::clamp(m.dispersalSurvival.value(context), 0.0, 100.0) / 100.0;
 }
 
 }  // namespace
@@ -47,13 +57,23 @@ void Disperse(const Model& m, World& world, SimContext& context) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
     if (pop.members.empty()) continue;
     context.setPopulation(p);
-    const std::vector<double> cumulative = Destinations(m, world, p, context);
-    if (cumulative.back() <= 0.0) continue;
-    const double survival = std::clamp(m.dispersalSurvival.value(context), 0.0, 100.0) / 100.0;
+    const bool each = PerDisperser(m, m.pops[static_cast<std::size_t>(p)]);
+    std::vector<double>& cumulative = world.destinations;
+    double survival = 0.0;
+    if (!each) {
+      Destinations(m, world, p, context, cumulative);
+      if (cumulative.back() <= 0.0) continue;
+      survival = SurvivalOfMove(m, context);
+    }
     std::size_t kept = 0;
     for (std::size_t i = 0; i < pop.members.size(); ++i) {
       const Individual& ind = pop.members[i];
       const bool eligible = m.dispersing[ind.sex] && ind.age >= m.dispersalYoung && ind.age <= m.dispersalOld;
+      if (eligible && each) {
+        context.setIndividual(&ind);
+        Destinations(m, world, p, context, cumulative);
+        survival = SurvivalOfMove(m, context);
+      }
       if (eligible) {
         const double u = world.random.uniform();
         const auto to = std::upper_bound(cumulative.begin(), cumulative.end(), u) - cumulative.begin();
@@ -66,6 +86,7 @@ void Disperse(const Model& m, World& world, SimContext& context) {
       pop.members[kept++] = ind;
     }
     pop.members.resize(kept);
+    context.setIndividual(nullptr);
   }
   for (int q = 0; q < m.populations; ++q) {
     auto& incoming = arrivals[static_cast<std::size_t>(q)];

@@ -3,10 +3,12 @@
 //      for breeding and survival when asked), catastrophes, K of the year;
 //   2. breeding, with the genetics of the newborns (lethals kill at birth);
 //   3. mortality, then ageing;
-//   4. dispersal;
-//   5. harvest and supplementation;
-//   6. removal of the excess over K, at random across ages and sexes;
-//   7. census, which also applies the definition of extinction.
+//   4. state variables: the yearly values of individuals, then those of the
+//      populations and the global ones;
+//   5. dispersal;
+//   6. harvest and supplementation;
+//   7. removal of the excess over K, at random across ages and sexes;
+//   8. census, which also applies the definition of extinction.
 // Year 0 is the census of the founders, before any breeding. Every draw
 // comes from the iteration's own random stream in this fixed order, so an
 // iteration's results depend on the seed and its number only.
@@ -17,6 +19,7 @@
 #include "sim/Journal.h"
 #include "sim/RunMonitor.h"
 #include "sim/SimContext.h"
+#include "sim/StateVariables.h"
 #include "sim/Steps.h"
 #include "sim/TakeCensus.h"
 
@@ -93,11 +96,13 @@ bool RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
                   World& world, IterationRecord& record) {
   const RunMonitor& monitor = RunMonitor::get();
   Reset(m, seed, iteration, world);
-  record.reset(m.populations > 1 ? m.populations + 1 : 1, m.years);
+  record.reset(m.populations > 1 ? m.populations + 1 : 1, m.years, m.userVariables);
   world.created = m.options.createdFile ? &record.journal.created : nullptr;
   SimContext context(m, world, seed);
   Found(m, start, world);
+  StartStates(m, world, context);
   TakeCensus(m, world, record);
+  RecordStates(m, world, record);
   NoteCensus(m, world, record);
   for (world.year = 1; world.year <= m.years; ++world.year) {
     if (monitor.cancelled()) {
@@ -110,11 +115,13 @@ bool RunIteration(const Model& m, const std::vector<StartingNumbers>& start, std
     if (m.needsCounts) Recount(m, world);
     SurviveAndAge(m, world, context);
     if (m.needsCounts || DispersalReadsCounts(m)) Recount(m, world);
+    AdvanceStates(m, world, context);
     Disperse(m, world, context);
     if (m.needsCounts) Recount(m, world);
     HarvestAndSupplement(m, world, context);
     TruncateToCapacity(world);
     TakeCensus(m, world, record);
+    RecordStates(m, world, record);
     NoteCensus(m, world, record);
   }
   NoteLiving(m, world, record);

@@ -51,9 +51,13 @@ void NoteCensus(const Model& m, World& world, IterationRecord& record) {
 
 void NoteLiving(const Model& m, const World& world, IterationRecord& record) {
   if (!m.options.livingFile) return;
+  const int states = world.individualStates.count();
   for (int p = 0; p < m.populations; ++p)
-    for (const Individual& ind : world.pops[static_cast<std::size_t>(p)].members)
+    for (const Individual& ind : world.pops[static_cast<std::size_t>(p)].members) {
       record.journal.living.push_back({p, ind});
+      const double* values = states > 0 ? world.individualStates.at(ind.genome) : nullptr;
+      record.journal.livingStates.insert(record.journal.livingStates.end(), values, values + states);
+    }
 }
 
 }  // namespace tamsic::sim

@@ -7,12 +7,16 @@
 
 #include "sim/Distribution.h"
 #include "sim/SimContext.h"
+#include "sim/StateVariables.h"
 
 namespace tamsic::sim {
 
 namespace {
 
-// A world holding only counts, so that functions of N and K can be evaluated.
+// A world holding only counts and the first values of the population and
+// global state variables, so that functions of N, K and PS1 can be evaluated.
+// Individual state variables are 0 here, as are A and the other variables of
+// an individual.
 World StartingWorld(const Model& m) {
   World world(0, 0);
   world.year = 1;
@@ -26,6 +30,8 @@ World StartingWorld(const Model& m) {
     world.pops[p].lastCatastrophe.assign(inputs.catastrophes.size(), -1);
   }
   SimContext context(m, world, 0);
+  // As in year 0 of a run: state variables first, before any K is known.
+  StartGroupStates(m, world, context);
   for (std::size_t p = 0; p < world.pops.size(); ++p) {
     context.setPopulation(static_cast<int>(p));
     world.pops[p].year.capacity = m.pops[p].capacity.value(context);

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "sim/StateVariables.h"
 #include "sim/Steps.h"
 
 namespace tamsic::sim {
@@ -60,6 +61,7 @@ void Supplement(const Model& m, const AgeClassCounts& counts, int population, Wo
       for (int k = 0; k < wanted; ++k) {
         if (!m.options.translocate) {
           pop.members.push_back(MakeFounder(world, sex, static_cast<int>(c) + 1, population, Origin::Supplement));
+          StartIndividual(m, world, context, pop.members.back());
           continue;
         }
         const auto found = std::find_if(harvested.begin(), harvested.end(), [&](const Individual& ind) {

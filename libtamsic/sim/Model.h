@@ -38,6 +38,15 @@ struct AgeClassCounts {
   std::vector<Rate> males;
 };
 
+// An individual state variable: its value for founders and supplements, at
+// birth, and its new value each year (none: the value stays as it is).
+struct IndividualStateVar {
+  std::string name;
+  Rate initial;
+  Rate birth;
+  std::optional<Rate> transition;
+};
+
 struct PopulationModel {
   std::string label;
   Rate breeding;    // % adult females breeding
@@ -61,6 +70,7 @@ struct PopulationModel {
   Schedule supplement;
   AgeClassCounts supplemented;
   std::vector<Rate> dispersal;  // % per year to each population (own column ignored)
+  std::vector<Rate> states;     // PS1, PS2, ...
 };
 
 struct Model {
@@ -94,11 +104,15 @@ struct Model {
   int neutralLoci = 1;
   bool needsCounts = false;  // some function asks for N, F, M, ... of a population
   int userVariables = 0;  // state-variable columns of the yearly data
+  std::vector<IndividualStateVar> individualStates;  // IS1, IS2, ...
+  std::vector<Rate> globalStates;                    // GS1, GS2, ...
   std::vector<PopulationModel> pops;
   GeneticManagement genetics;
   Options options;
 
   bool sexual() const { return mating != Mating::Hermaphroditic; }
+  int populationStates() const { return pops.empty() ? 0 : static_cast<int>(pops.front().states.size()); }
+  bool hasStates() const { return !individualStates.empty() || populationStates() > 0 || !globalStates.empty(); }
   // The mortality age class of an individual of that sex and age.
   int mortalityClass(int sex, int age) const { return age < firstBreeding[sex] ? age : firstBreeding[sex]; }
 };

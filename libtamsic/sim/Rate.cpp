@@ -22,16 +22,24 @@ bool UsesIndividual(const formula::Program& program) {
     if (program.uses(var)) return true;
   for (int n = 1; n <= 10; ++n)
     if (program.uses(formula::StateVar(Var::IS1, n))) return true;
-  // A random draw in a rate is a draw per individual.
-  return std::any_of(program.code().begin(), program.code().end(),
-                     [](const formula::Instruction& in) { return in.op == Op::Rand || in.op == Op::NRand; });
+  // A random draw in a rate is a draw per individual; VV and ZZ read the individual's alleles.
+  return std::any_of(program.code().begin(), program.code().end(), [](const formula::Instruction& in) {
+    const auto indexed = static_cast<formula::IndexedVar>(in.b);
+    return in.op == Op::Rand || in.op == Op::NRand ||
+           (in.op == Op::Indexed && (indexed == formula::IndexedVar::VV || indexed == formula::IndexedVar::ZZ));
+  });
 }
 
 bool UsesCounts(const formula::Program& program) {
   for (Var var : {Var::F, Var::G, Var::I, Var::J, Var::M, Var::N, Var::U, Var::W, Var::X})
     if (program.uses(var)) return true;
-  return std::any_of(program.code().begin(), program.code().end(),
-                     [](const formula::Instruction& in) { return in.op == Op::Indexed; });
+  using formula::IndexedVar;
+  return std::any_of(program.code().begin(), program.code().end(), [](const formula::Instruction& in) {
+    const auto var = static_cast<IndexedVar>(in.b);
+    return in.op == Op::Indexed && (var == IndexedVar::FF || var == IndexedVar::JJ || var == IndexedVar::MM ||
+                                    var == IndexedVar::NN || var == IndexedVar::II || var == IndexedVar::WW ||
+                                    var == IndexedVar::XX);
+  });
 }
 
 }  // namespace
@@ -72,15 +80,41 @@ Rate Rate::Read(std::string_view text, double emptyValue, const std::string& whe
   return rate;
 }
 
+std::string Rate::place(const SimContext& context) const {
+  const std::string year = "year " + std::to_string(context.year());
+  if (context.global()) return where_ + ", " + year;
+  return where_ + ", population " + std::to_string(context.population() + 1) + ", " + year;
+}
+
+void Rate::checkFinite(const SimContext& context, double result) const {
+  if (!std::isfinite(result))
+    throw SimError(place(context) + ": the function gives " + (std::isnan(result) ? "no number" : "an infinite value"));
+}
+
 double Rate::value(SimContext& context) const {
   if (series_) return series_->valueForYear(context.year());
   if (!program_) return value_;
-  const double result = program_->evaluate(context);
-  if (!std::isfinite(result))
-    throw SimError(where_ + ", population " + std::to_string(context.population() + 1) + ", year " +
-                   std::to_string(context.year()) + ": the function gives " +
-                   (std::isnan(result) ? "no number" : "an infinite value"));
+  double result = 0.0;
+  try {
+    result = program_->evaluate(context);
+  } catch (const SimError& fault) {
+    throw SimError(place(context) + ": " + fault.what());
+  }
+  checkFinite(context, result);
   return result;
+}
+
+void Rate::values(SimContext& context, std::size_t count, double* out) const {
+  if (!program_) {
+    std::fill_n(out, count, value(context));
+    return;
+  }
+  try {
+    program_->evaluateBatch(context, count, out);
+  } catch (const SimError& fault) {
+    throw SimError(place(context) + ": " + fault.what());
+  }
+  for (std::size_t i = 0; i < count; ++i) checkFinite(context, out[i]);
 }
 
 }  // namespace tamsic::sim

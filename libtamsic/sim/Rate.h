@@ -38,13 +38,22 @@ class Rate {
   // Whether the value can differ between individuals of one population.
   bool perIndividual() const { return perIndividual_; }
   bool usesPopulationCounts() const { return usesCounts_; }
+  // The compiled function; null for a number or a file reference.
+  const formula::Program* program() const { return program_.get(); }
   const std::string& where() const { return where_; }
 
   // The value in the context's population, year and individual. Throws
-  // SimError naming the input when a function gives NaN or infinity.
+  // SimError naming the input when a function gives NaN or infinity, or
+  // names what does not exist (FF(9) of a scenario with two populations).
   double value(SimContext& context) const;
+  // The values for the items 0 .. count-1 of the context's batch (SimContext::setBatch), worked out together.
+  void values(SimContext& context, std::size_t count, double* out) const;
 
  private:
+  // The input, population and year, for messages.
+  std::string place(const SimContext& context) const;
+  void checkFinite(const SimContext& context, double result) const;
+
   double value_ = 0.0;
   std::shared_ptr<const formula::Program> program_;
   std::shared_ptr<const formula::FileSeries> series_;

@@ -8,7 +8,9 @@
 #include "sim/CellReader.h"
 #include "sim/ReadGenetics.h"
 #include "sim/ReadPopulation.h"
+#include "sim/ReadStates.h"
 #include "sim/SimError.h"
+#include "sim/VariableScopes.h"
 
 namespace tamsic::sim {
 
@@ -114,7 +116,9 @@ Model ReadModel(const clsScenario& scenario, const std::filesystem::path& folder
   const int catastrophes = in.Whole(F("txtNumCatast"), 0);
   m.userVariables = std::max(in.Whole(F("txtNumPopStateVars"), 0), in.Whole(F("txtNumGlobalVars"), 0));
   for (int p = 0; p < m.populations; ++p) m.pops.push_back(ReadPopulation(in, m, p, catastrophes));
+  ReadStateVariables(in, m);
   m.needsCounts = in.countsUsed();
+  CheckVariableScopes(m);
   return m;
 }
 

@@ -2,7 +2,6 @@
 // Turns a scenario record into the Model the simulation runs. Every input
 // is checked here, before any iteration starts; a fault throws SimError
 // naming the input, and files that inputs name are read and checked here.
-// State variables are accepted and not yet used.
 #include <filesystem>
 
 #include "model/clsScenario.h"

@@ -64,11 +64,13 @@ struct Genotypes {
 
 struct Journal {
   std::vector<LivingEntry> living;
+  std::vector<double> livingStates;  // IS1, IS2, ... of each of the living in turn
   std::vector<CreatedEntry> created;
   std::vector<CensusEntry> census;
   Genotypes genotypes;
   void clear() {
     living.clear();
+    livingStates.clear();
     created.clear();
     census.clear();
     genotypes.clear();
@@ -77,26 +79,37 @@ struct Journal {
 
 class IterationRecord {
  public:
-  void reset(int blocks, int years) {
+  void reset(int blocks, int years, int userVariables) {
     blocks_ = blocks;
     years_ = years;
+    userVariables_ = userVariables;
     cells_.assign(static_cast<std::size_t>(blocks) * static_cast<std::size_t>(years + 1), Census{});
+    userValues_.assign(cells_.size() * userWidth(), 0.0);
     journal.clear();
   }
   Census& at(int block, int year) { return cells_[index(block, year)]; }
   const Census& at(int block, int year) const { return cells_[index(block, year)]; }
+  // The user variables of the census: PS1, PS2, ... of a population, GS1, GS2, ... of the metapopulation.
+  double* userValues(int block, int year) { return userValues_.data() + index(block, year) * userWidth(); }
+  const double* userValues(int block, int year) const {
+    return userValues_.data() + index(block, year) * userWidth();
+  }
   int blocks() const { return blocks_; }
   int years() const { return years_; }
+  int userVariables() const { return userVariables_; }
 
   Journal journal;  // filled only when an extra file was asked for
 
  private:
+  std::size_t userWidth() const { return static_cast<std::size_t>(userVariables_); }
   std::size_t index(int block, int year) const {
     return static_cast<std::size_t>(block) * static_cast<std::size_t>(years_ + 1) + static_cast<std::size_t>(year);
   }
   int blocks_ = 0;
   int years_ = 0;
+  int userVariables_ = 0;
   std::vector<Census> cells_;
+  std::vector<double> userValues_;
 };
 
 }  // namespace tamsic::sim

@@ -12,8 +12,12 @@ double Moments::sd() const {
 
 double Moments::se() const { return n > 0 ? sd() / std::sqrt(n) : 0.0; }
 
-Results::Results(int blocks, int years)
-    : blocks_(blocks), years_(years), stats_(static_cast<std::size_t>(blocks) * static_cast<std::size_t>(years + 1)) {}
+Results::Results(int blocks, int years, int userVariables)
+    : blocks_(blocks),
+      years_(years),
+      userVariables_(userVariables),
+      stats_(static_cast<std::size_t>(blocks) * static_cast<std::size_t>(years + 1)),
+      user_(stats_.size() * static_cast<std::size_t>(userVariables)) {}
 
 void Results::add(int iteration, const IterationRecord& record) {
   ++iterations_;
@@ -22,6 +26,8 @@ void Results::add(int iteration, const IterationRecord& record) {
     for (int y = 0; y <= years_; ++y) {
       const Census& c = record.at(b, y);
       YearStats& s = stats_[index(b, y)];
+      // State variables have values in every year, extinct or not.
+      for (int v = 0; v < userVariables_; ++v) user_[userIndex(b, y, v)].add(record.userValues(b, y)[v]);
       if (c.extinct && first < 0) {
         first = y;
         ++s.firstExtinctions;

@@ -40,13 +40,16 @@ struct FinalState {
 
 class Results {
  public:
-  Results(int blocks, int years);
+  Results(int blocks, int years, int userVariables);
   void add(int iteration, const IterationRecord& record);
 
   int blocks() const { return blocks_; }
   int years() const { return years_; }
   int iterations() const { return iterations_; }
   const YearStats& at(int block, int year) const { return stats_[index(block, year)]; }
+  int userVariables() const { return userVariables_; }
+  // User variable v (from 0) over all iterations: PS of a population, GS of the metapopulation.
+  const Moments& user(int block, int year, int v) const { return user_[userIndex(block, year, v)]; }
   const std::vector<FinalState>& finals() const { return finals_; }
 
   // Iterations extinct by the year, and the mean, SD and SE of their year of extinction.
@@ -59,10 +62,15 @@ class Results {
   std::size_t index(int block, int year) const {
     return static_cast<std::size_t>(block) * static_cast<std::size_t>(years_ + 1) + static_cast<std::size_t>(year);
   }
+  std::size_t userIndex(int block, int year, int v) const {
+    return index(block, year) * static_cast<std::size_t>(userVariables_) + static_cast<std::size_t>(v);
+  }
   int blocks_;
   int years_;
+  int userVariables_;
   int iterations_ = 0;
   std::vector<YearStats> stats_;
+  std::vector<Moments> user_;
   std::vector<FinalState> finals_;
 };
 

@@ -2,6 +2,9 @@
 
 #include <bit>
 #include <cmath>
+#include <sstream>
+
+#include "sim/SimError.h"
 
 namespace tamsic::sim {
 
@@ -16,9 +19,23 @@ std::uint64_t Key(std::uint64_t seed, double argument) {
   return Mix(seed ^ Mix(std::bit_cast<std::uint64_t>(argument + 0.0)));
 }
 
+// A function's argument that names nothing: "FF(4): there is no population 4".
+SimError NoSuch(IndexedVar var, double argument, const char* what) {
+  std::ostringstream text;
+  text << formula::IndexedVarName(var) << "(" << argument << "): there is no " << what << " " << argument;
+  return SimError(text.str());
+}
+
+// The number within 1..count that an argument names, or -1.
+long Within(double argument, std::size_t count) {
+  const long n = std::lround(argument);
+  return n >= 1 && static_cast<std::size_t>(n) <= count ? n - 1 : -1;
+}
+
 }  // namespace
 
 double SimContext::variable(Var var) {
+  if (var >= Var::IS1) return stateVariable(static_cast<int>(var));
   const PopulationState& pop = world_.pops[static_cast<std::size_t>(pop_)];
   const Counts& c = pop.counts;
   const Individual* i = individual_;
@@ -50,63 +67,125 @@ double SimContext::variable(Var var) {
     case Var::SIRE: return i ? i->sire : 0;
     case Var::MATE: return i ? i->mate : 0;
     case Var::NMATES: return i ? i->mates : 0;
-    default: return 0.0;  // Q is unused; state variables come later
+    default: return 0.0;  // Q and B, which the reading of a scenario refuses
   }
 }
 
-const PopulationState* SimContext::populationAt(double number) const {
-  const auto p = static_cast<long>(std::lround(number)) - 1;
-  if (p < 0 || p >= static_cast<long>(world_.pops.size())) return nullptr;
-  return &world_.pops[static_cast<std::size_t>(p)];
+// As the general one, but without a virtual call for each item and variable.
+void SimContext::fetchBatch(const Var* vars, std::size_t count, std::size_t first, std::size_t items, double* values,
+                            std::size_t stride) {
+  for (std::size_t i = 0; i < items; ++i) {
+    select(first + i);
+    for (std::size_t v = 0; v < count; ++v) values[v * stride + i] = variable(vars[v]);
+  }
+}
+
+// The life table asks for an individual's rates without an individual: its state variables are 0 there.
+double SimContext::stateVariable(int index) const {
+  const int ps = static_cast<int>(Var::PS1), gs = static_cast<int>(Var::GS1);
+  if (index >= gs) return (globalStates_ ? globalStates_ : world_.globalStates.data())[index - gs];
+  if (index >= ps) {
+    const auto& own = world_.pops[static_cast<std::size_t>(pop_)].states;
+    return (populationStates_ ? populationStates_ : own.data())[index - ps];
+  }
+  if (!individual_) return 0.0;
+  const IndividualStates& states = world_.individualStates;
+  const double* row = individualStates_ ? individualStates_ : states.at(individual_->genome);
+  return row[index - static_cast<int>(Var::IS1)];
+}
+
+const PopulationState& SimContext::populationAt(IndexedVar var, double number) const {
+  const long p = Within(number, world_.pops.size());
+  if (p < 0) throw NoSuch(var, number, "population");
+  return world_.pops[static_cast<std::size_t>(p)];
+}
+
+std::optional<std::uint32_t> SimContext::slotOf(double id) {
+  if (!(id >= 1.0 && id < 4294967296.0)) return std::nullopt;
+  return ids_.slotOf(world_, static_cast<std::uint32_t>(std::lround(id)));
+}
+
+// IIS1(id) ...: 0 for an id of no living individual, as DAM is 0 for a founder.
+double SimContext::otherIndividual(IndexedVar var, double argument) {
+  const auto slot = slotOf(argument);
+  if (!slot) return 0.0;
+  return world_.individualStates.at(*slot)[static_cast<int>(var) - static_cast<int>(IndexedVar::IIS1)];
+}
+
+const SimContext::Summary& SimContext::summary(IndexedVar var, double number) {
+  const long k = Within(number, model_.individualStates.size());
+  if (k < 0) throw NoSuch(var, number, "individual state variable");
+  Summary& s = summaries_[static_cast<std::size_t>(k)];
+  if (summarized_ >> k & 1) return s;
+  s = Summary{};
+  double n = 0.0;
+  const auto add = [&](const PopulationState& pop) {
+    for (const Individual& ind : pop.members) {
+      const double value = world_.individualStates.at(ind.genome)[k];
+      s.least = n == 0.0 ? value : std::min(s.least, value);
+      s.most = n == 0.0 ? value : std::max(s.most, value);
+      s.total += value;
+      n += 1.0;
+    }
+  };
+  if (global_)
+    for (const PopulationState& pop : world_.pops) add(pop);
+  else
+    add(world_.pops[static_cast<std::size_t>(pop_)]);
+  s.mean = n > 0.0 ? s.total / n : 0.0;
+  summarized_ |= 1u << k;
+  return s;
 }
 
 double SimContext::indexed(IndexedVar var, double argument) {
-  if (var == IndexedVar::VV || var == IndexedVar::ZZ) {
-    const long locus = std::lround(argument) - 1;
-    if (!individual_ || locus < 0 || locus >= world_.genomes.shape().neutralLoci) return 0.0;
-    return world_.genomes.allele(individual_->genome, var == IndexedVar::VV ? 0 : 1, static_cast<int>(locus));
+  const int index = static_cast<int>(var);
+  if (index >= static_cast<int>(IndexedVar::PPS1))
+    return populationAt(var, argument).states[static_cast<std::size_t>(index - static_cast<int>(IndexedVar::PPS1))];
+  if (index >= static_cast<int>(IndexedVar::IIS1)) return otherIndividual(var, argument);
+  switch (var) {
+    case IndexedVar::VV:
+    case IndexedVar::ZZ: {
+      const int loci = world_.genomes.shape().neutralLoci;
+      const long locus = Within(argument, static_cast<std::size_t>(loci));
+      if (locus < 0) throw NoSuch(var, argument, "neutral locus");
+      if (!individual_) return 0.0;
+      return world_.genomes.allele(individual_->genome, var == IndexedVar::VV ? 0 : 1, static_cast<int>(locus));
+    }
+    case IndexedVar::CAT: {
+      const auto& last = world_.pops[static_cast<std::size_t>(pop_)].lastCatastrophe;
+      const long type = Within(argument, last.size());
+      if (type < 0) throw NoSuch(var, argument, "catastrophe type");
+      const int when = last[static_cast<std::size_t>(type)];
+      return when < 0 ? world_.year : world_.year - when;
+    }
+    case IndexedVar::IMEAN: return summary(var, argument).mean;
+    case IndexedVar::ITOT: return summary(var, argument).total;
+    case IndexedVar::IMIN: return summary(var, argument).least;
+    case IndexedVar::IMAX: return summary(var, argument).most;
+    default: break;
   }
-  if (var == IndexedVar::CAT) {
-    const long type = std::lround(argument) - 1;
-    const auto& last = world_.pops[static_cast<std::size_t>(pop_)].lastCatastrophe;
-    if (type < 0 || type >= static_cast<long>(last.size())) return 0.0;
-    const int when = last[static_cast<std::size_t>(type)];
-    return when < 0 ? world_.year : world_.year - when;
-  }
-  const PopulationState* pop = populationAt(argument);
-  if (!pop) return 0.0;
-  const Counts& c = pop->counts;
+  const PopulationState& pop = populationAt(var, argument);
+  const Counts& c = pop.counts;
   switch (var) {
     case IndexedVar::FF: return c.adultFemales;
-    case IndexedVar::GG: return pop->geneDiversity;
+    case IndexedVar::GG: return pop.geneDiversity;
     case IndexedVar::JJ: return c.juveniles;
-    case IndexedVar::KK: return pop->year.capacity;
+    case IndexedVar::KK: return pop.year.capacity;
     case IndexedVar::MM: return c.adultMales;
     case IndexedVar::NN: return c.n;
     case IndexedVar::II: return 100.0 * c.meanInbreeding;
     case IndexedVar::WW: return c.males;
-    case IndexedVar::XX: return c.females;
-    default: return 0.0;  // state-variable summaries come later
+    default: return c.females;  // XX
   }
 }
 
-const Individual* SimContext::findById(double id, std::uint32_t* slot) const {
-  const auto wanted = static_cast<std::uint32_t>(std::lround(id));
-  for (const PopulationState& pop : world_.pops)
-    for (const Individual& i : pop.members)
-      if (i.id == wanted) {
-        *slot = i.genome;
-        return &i;
-      }
-  return nullptr;
-}
-
-// Rarely used in functions, so a search is good enough. Exact while the iteration keeps the kinship matrix.
+// KIN(a;b): 0 unless both are alive. Exact while the iteration keeps the kinship matrix.
 double SimContext::kinship(double first, double second) {
-  std::uint32_t a = 0, b = 0;
-  if (!findById(first, &a) || !findById(second, &b)) return 0.0;
+  const auto a = slotOf(first);
+  const auto b = slotOf(second);
+  if (!a || !b) return 0.0;
   world_.kinship.settle();
-  return world_.kinship.exact() ? world_.kinship.at(a, b) : world_.genomes.kinship(a, b);
+  return world_.kinship.exact() ? world_.kinship.at(*a, *b) : world_.genomes.kinship(*a, *b);
 }
 
 double SimContext::seededUniform(double seed) { return Unit(Key(runSeed_, seed)); }

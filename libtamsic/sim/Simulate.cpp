@@ -89,7 +89,7 @@ std::vector<StartingNumbers> StartingPopulations(const Model& m, const std::vect
 
 std::optional<Results> Simulate(const Model& m, const std::vector<StartingNumbers>& start, std::uint64_t seed,
                                 int threads, const RecordSink& sink) {
-  Results results(m.populations > 1 ? m.populations + 1 : 1, m.years);
+  Results results(m.populations > 1 ? m.populations + 1 : 1, m.years, m.userVariables);
   OrderedFold fold(results, sink);
   std::atomic<int> next{1};
   RunMonitor& monitor = RunMonitor::get();

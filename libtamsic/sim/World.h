@@ -9,6 +9,7 @@
 #include "sim/Distribution.h"
 #include "sim/Genome.h"
 #include "sim/Individual.h"
+#include "sim/IndividualStates.h"
 #include "sim/Kinship.h"
 #include "sim/Random.h"
 #include "sim/Record.h"
@@ -45,6 +46,7 @@ struct PopulationState {
   bool extinct = false;              // at the last census
   double geneDiversity = 0.0;  // at the last census
   double initialGeneDiversity = 0.0;
+  std::vector<double> states;  // PS1, PS2, ... of this year
 };
 
 struct World {
@@ -59,6 +61,8 @@ struct World {
   std::uint32_t nextId = 1;
   int iteration = 1;
   int year = 0;
+  IndividualStates individualStates;  // IS1, IS2, ... of the living
+  std::vector<double> globalStates;   // GS1, GS2, ... of this year
 
   // Work arrays of the yearly steps, kept to save allocations.
   std::vector<std::uint32_t> scratchA;
@@ -66,6 +70,9 @@ struct World {
   std::vector<std::uint32_t> scratchC;
   std::vector<Individual> moving;
   std::vector<std::vector<Individual>> arrivals;  // dispersers by recipient
+  std::vector<double> destinations;              // cumulative chances of a disperser's recipients
+  std::vector<double> nextStates;                // state values being worked out
+  std::vector<double> stateColumn;               // ... and one variable of them for a batch
   std::vector<std::uint32_t> alleleCounts;
 
   // The iteration's list of everyone created, when the option "N" asks for it.

@@ -113,6 +113,17 @@ SimScenario& SimScenario::everyPopulation(Field grid, std::size_t index, const s
   return *this;
 }
 
+SimScenario& SimScenario::stateVariables(int individual, int population, int global) {
+  counts_.indivStateVars = individual;
+  counts_.popStateVars = population;
+  counts_.globalVars = global;
+  text(F("txtNumIndividualStateParams"), std::to_string(individual));
+  text(F("txtNumPopStateVars"), std::to_string(population)).text(F("txtNumGlobalVars"), std::to_string(global));
+  for (Field grid : {F("gridIndividualStateParams"), F("gridPopLabels"), F("gridGlobalVars")})
+    scenario_.SetGrid(grid, Relayout(scenario_.GetGrid(grid), grid, counts_));
+  return *this;
+}
+
 std::filesystem::path SaveTestProject(const std::vector<SimScenario>& scenarios) {
   const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
   const std::filesystem::path folder = std::filesystem::temp_directory_path() /

@@ -26,6 +26,8 @@ class SimScenario {
   SimScenario& cell(Field grid, std::size_t row, std::size_t col, const std::string& value);
   // The same value in row r of every population column (settings grids) or in column c of every population row.
   SimScenario& everyPopulation(Field grid, std::size_t index, const std::string& value);
+  // The numbers of individual, population and global state variables, their grids sized to match.
+  SimScenario& stateVariables(int individual, int population, int global);
   const clsScenario& scenario() const { return scenario_; }
 
  private:
@@ -56,6 +58,6 @@ std::vector<std::vector<std::string>> DataLines(const std::string& text);
 
 // Field numbers of the yearly data.
 enum ResultField { kSurvive = 1, kDetR = 5, kStochR = 6, kStochRSE = 7, kExtant = 9, kAll = 12, kGeneDiv = 15,
-                   kInbreeding = 18, kAlleles = 21, kLethals = 24, kMedianTE = 30 };
+                   kInbreeding = 18, kAlleles = 21, kLethals = 24, kMedianTE = 30, kVar1 = 31 };
 
 }  // namespace tamsic::test
