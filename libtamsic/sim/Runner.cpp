@@ -182,7 +182,8 @@ std::string Run(const std::string& workFile, const std::string& bracedList, cons
   const std::string seed = " with seed " + std::to_string(run.seed);
   if (stepwise)
     return "Message: step " + std::to_string(run.finished.size()) + " of " + std::to_string(names.size()) +
-           (now.empty() ? ": every scenario was already run" + seed : ", scenario run" + seed + kSummaryFields + summary);
+           (now.empty() ? ": every scenario was already run" + seed
+                        : ", scenario run" + seed + kSummaryFields + summary);
   const std::size_t kept = names.size() - now.size();
   return "Message: " + Plural(now.size(), "scenario") + " run" + seed +
          (kept > 0 ? " (" + Plural(kept, "scenario") + " finished before kept)" : "") + kSummaryFields + summary;

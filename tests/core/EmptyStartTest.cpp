@@ -24,7 +24,8 @@ TEST(EmptyStart, PopulationsWithNoOneAtTheStartAreNamed) {
 
   s.SetTruth(F("optStartWith_0"), false);
   s.SetTruth(F("optStartWith_1"), true);
-  EXPECT_EQ(PopulationsStartingEmpty(s), (std::vector<std::string>{"Northern ridge", "River flats", "Eastern remnant"}));
+  EXPECT_EQ(PopulationsStartingEmpty(s),
+            (std::vector<std::string>{"Northern ridge", "River flats", "Eastern remnant"}));
   SetCell(s, F("gridInitPopMale"), 3, 4, "2");
   EXPECT_EQ(PopulationsStartingEmpty(s), (std::vector<std::string>{"Northern ridge", "River flats"}));
 
