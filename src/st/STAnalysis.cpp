@@ -11,7 +11,7 @@
 #include "model/TextSplit.h"
 #include "results/ResultVariables.h"
 #include "st/STAnalysisValues.h"
-#include "st/STInputs.h"
+#include "st/basST.h"
 
 namespace tamsic {
 
@@ -67,7 +67,7 @@ class ValueReader {
 };
 
 std::optional<double> BaselineNumber(const clsScenario& baseline, const std::string& variable, ValueReader& read) {
-  const auto text = STInputText(baseline, variable);
+  const auto text = STBaselineValue(baseline, variable);
   return text ? read(*text, std::nullopt) : std::nullopt;
 }
 
@@ -90,7 +90,7 @@ STItemResults ReadItem(const ProjectState& state, const STItem& item, std::size_
     results.baseline = static_cast<std::size_t>(item.ScenarioIndex);
   for (std::size_t j = 0; j < item.Vars.size() && j < item.Vals.size(); ++j) {
     std::optional<std::string> baseline;
-    if (results.baseline != 0) baseline = STInputText(scenarios.Item(results.baseline), item.Vars[j]);
+    if (results.baseline != 0) baseline = STBaselineValue(scenarios.Item(results.baseline), item.Vars[j]);
     results.values.push_back({item.Vars[j], item.Vals[j], read(item.Vals[j], baseline)});
   }
   if (position == 0 || !Trim(scenarios.Item(position).Text(F("txtSceneName"))).starts_with("ST.")) {

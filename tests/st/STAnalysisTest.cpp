@@ -13,7 +13,7 @@
 #include "results/TableExport.h"
 #include "st/STAnalysis.h"
 #include "st/STAnalysisViews.h"
-#include "st/STInputs.h"
+#include "st/basST.h"
 #include "st/STRegression.h"
 #include "support/TestFolder.h"
 
@@ -101,7 +101,7 @@ TEST(STRegression, RefusesWhatCannotBeFitted) {
   EXPECT_EQ(ranking.constant, (std::vector<std::string>{"a", "b"}));
 }
 
-TEST(STInputs, EachVariableFindsItsCell) {
+TEST(STBaselineValue, EachVariableFindsItsCell) {
   const test::TestFolder folder;
   const clsScenario koalas = sttest::KoalaProject(folder.path()).document.scenarios.Item(1);
   const std::vector<std::pair<std::string, std::string>> cells = {
@@ -112,10 +112,10 @@ TEST(STInputs, EachVariableFindsItsCell) {
       {"CatastrophesReproSevere_Pop2_Cat1", "0.6"}, {"PercentMalesBreed_Pop1", "50"}, {"InitPopSize_Pop3", "40"},
       {"K_Pop2", "150"}, {"K-SD_Pop3", "8"}, {"KChangeYears_Pop3", "30"}, {"KChangePercent_Pop3", "-1"},
       {"Harvest?_Pop2", "0"}};
-  for (const auto& [name, text] : cells) EXPECT_EQ(STInputText(koalas, name), text) << name;
+  for (const auto& [name, text] : cells) EXPECT_EQ(STBaselineValue(koalas, name), text) << name;
   for (const char* name : {"K_Pop4", "FemaleMortality_Pop1_Age3", "CatastrophesFreq_Pop1_Cat0", "SexRatio_Pop1",
-                           "K_Pop1_Age1", "PercentBreed", "Sexratio", "K_PopX"})
-    EXPECT_EQ(STInputText(koalas, name), std::nullopt) << name;
+                           "PercentBreed", "Sexratio", "K_PopX"})
+    EXPECT_EQ(STBaselineValue(koalas, name), std::nullopt) << name;
 }
 
 class STAnalysisTest : public ::testing::Test {
