@@ -220,13 +220,16 @@ int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageB
     std::cerr << Cp1252ToUtf8(team.error()) << "\n";
     return 1;
   }
+  int code = 1;
   try {
-    return RunAsMember(arguments, messages, box, engine, team);
+    code = RunAsMember(arguments, messages, box, engine, team);
   } catch (const std::exception& error) {
     team.stoppedBy(error.what());
     if (!team.leads()) return 1;
     throw;
   }
+  if (box.sawProblem()) team.stoppedBy(arguments.project + ": " + box.firstMessage());
+  return code;
 }
 
 }  // namespace tamsic

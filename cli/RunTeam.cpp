@@ -1,10 +1,11 @@
 #include "RunTeam.h"
 
 #include "engine/EngineLibrary.h"
+#include "files/TextCodec.h"
 
 namespace tamsic {
 
-RunTeam::RunTeam(LibraryEngine& engine, StderrMessageBox& box) : engine_(engine), box_(box) {
+RunTeam::RunTeam(LibraryEngine& engine, StderrMessageBox& box) : engine_(engine) {
   std::string reply;
   try {
     reply = engine_.joinTeam();
@@ -16,12 +17,12 @@ RunTeam::RunTeam(LibraryEngine& engine, StderrMessageBox& box) : engine_(engine)
     return;
   }
   rank_ = std::stoi(reply.substr(0, reply.find(';')));
-  if (rank_ != 0) box_.silence();
+  if (rank_ != 0) box.silence();
 }
 
 RunTeam::~RunTeam() {
   try {
-    engine_.leaveTeam(reason_.empty() ? box_.firstMessage() : reason_);
+    engine_.leaveTeam(Utf8ToCp1252(reason_));
   } catch (...) {
     // The library could not be loaded: there was no team to leave.
   }

@@ -12,7 +12,7 @@ namespace tamsic {
 
 class RunTeam {
  public:
-  // Joins; the messages of any process but rank 0 are kept from the terminal from now on.
+  // Joins; from now on the messages of any process but rank 0 are kept from the terminal.
   RunTeam(LibraryEngine& engine, StderrMessageBox& box);
   ~RunTeam();
   RunTeam(const RunTeam&) = delete;
@@ -22,12 +22,11 @@ class RunTeam {
   const std::string& error() const { return error_; }
   // Rank 0 (a process alone too) prints and writes for the team.
   bool leads() const { return rank_ == 0; }
-  // Why this process stopped before the run, when the message box did not see it.
+  // Why this process stopped, for the others when it stopped before the run.
   void stoppedBy(const std::string& reason) { reason_ = reason; }
 
  private:
   LibraryEngine& engine_;
-  StderrMessageBox& box_;
   int rank_ = 0;
   std::string error_;
   std::string reason_;
