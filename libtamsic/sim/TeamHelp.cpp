@@ -31,14 +31,16 @@ class Courier {
  public:
   explicit Courier(Team& team) : team_(team) {}
 
-  // From any thread: queues a letter for rank 0, waiting while too many bytes are on their way.
+  // From the threads that run iterations: queues a letter for rank 0, waiting while too many bytes are on their way.
   void send(int tag, std::string body) {
     std::unique_lock lock(mutex_);
     room_.wait(lock, [&] { return stopped_ || queued_ + travelling_ < kRoom; });
-    if (stopped_) return;
-    queued_ += body.size();
-    queue_.push_back({tag, std::move(body)});
-    wake_.notify_one();
+    queue(tag, std::move(body));
+  }
+  // From the thread that pumps, which must not wait for itself.
+  void sendAtOnce(int tag, std::string body) {
+    std::lock_guard lock(mutex_);
+    queue(tag, std::move(body));
   }
 
   // On the calling thread: posts what is queued and reads rank 0's letters; waits a moment when idle.
@@ -89,6 +91,13 @@ class Courier {
     int tag;
     std::string body;
   };
+
+  void queue(int tag, std::string body) {
+    if (stopped_) return;
+    queued_ += body.size();
+    queue_.push_back({tag, std::move(body)});
+    wake_.notify_one();
+  }
 
   bool idle() {
     std::lock_guard lock(mutex_);
@@ -174,7 +183,7 @@ void Help(const ProjectDocument& project, const RunPlan& plan, const Options& op
     try {
       scenario.emplace(Prepare(project, plan.scenarios[s], options));
     } catch (const std::exception& fault) {
-      courier.send(tag, letters::Write(letters::kFault, 0, fault.what()));
+      courier.sendAtOnce(tag, letters::Write(letters::kFault, 0, fault.what()));
       break;
     }
     Dispatch dispatch(courier, tag);
@@ -185,7 +194,7 @@ void Help(const ProjectDocument& project, const RunPlan& plan, const Options& op
     offset += scenario->model.iterations;
     if (dispatch.failed()) break;
   }
-  if (monitor.cancelled() && !courier.stopped()) courier.send(letters::kControl, letters::kCancelled);
+  if (monitor.cancelled() && !courier.stopped()) courier.sendAtOnce(letters::kControl, letters::kCancelled);
   courier.finish();
 }
 

@@ -39,12 +39,13 @@ run() {
   fi
 }
 same() {
-  diff -r "$work/$1" "$work/$2" > /dev/null && cmp -s "$work/$1.out" "$work/$2.out" || fail "$2: files or summary differ from $1"
+  diff -r "$work/$1" "$work/$2" > /dev/null && cmp -s "$work/$1.out" "$work/$2.out" ||
+    fail "$2: files or summary differ from $1"
 }
 
 run K K.tpj 0 --seed 7 || fail "plain run of K"
 run C C.tpj 0 --seed 7 --scenario Unmanaged --scenario "Mean kinship" || fail "plain run of C"
-ls "$work/K" | grep -q '\.cen$' && ls "$work/C" | grep -q '\.frq$' || fail "the extra and genetic files of the plain runs"
+ls "$work/K" | grep -q '\.cen$' && ls "$work/C" | grep -q '\.frq$' || fail "the extra and genetic files written"
 for ranks in 1 2; do
   run "K$ranks" K.tpj "$ranks" --seed 7 || fail "K with $ranks ranks"
   same K "K$ranks"
