@@ -4,7 +4,8 @@
 // calls tamsicsim in the loaded library. A second thread draws the progress
 // bar from tamsicProgress and turns Ctrl+C (and SIGTERM, SIGHUP) into
 // tamsicCancel, so the engine stops within a simulated year and the finished
-// scenarios keep their files.
+// scenarios keep their files. Started by mpirun or srun, every process does
+// all this as one of a team (RunTeam.h); only rank 0 prints.
 #include "RunCommand.h"
 
 #include <unistd.h>
@@ -19,6 +20,7 @@
 #include <mutex>
 #include <thread>
 
+#include "RunTeam.h"
 #include "engine/Engine.h"
 #include "engine/EmptyStart.h"
 #include "engine/SpecialOptionsFlags.h"
@@ -72,10 +74,10 @@ void DrawProgress(const std::string& reply, std::chrono::steady_clock::time_poin
             << " iterations, " << left / 60 << ":" << (left % 60 < 10 ? "0" : "") << left % 60 << " left " << std::flush;
 }
 
-// Watches the run until `finished`: progress every quarter second, cancel on Ctrl+C.
+// Watches the run until `finished`: progress every quarter second (when it draws), cancel on Ctrl+C.
 class Watcher {
  public:
-  explicit Watcher(Engine& engine) : engine_(engine), thread_([this] { watch(); }) {}
+  Watcher(Engine& engine, bool draws) : engine_(engine), draws_(draws), thread_([this] { watch(); }) {}
   ~Watcher() {
     {
       std::lock_guard lock(mutex_);
@@ -83,7 +85,7 @@ class Watcher {
     }
     wake_.notify_all();
     thread_.join();
-    std::cerr << "\n";
+    if (draws_) std::cerr << "\n";
   }
 
  private:
@@ -93,11 +95,13 @@ class Watcher {
     std::unique_lock lock(mutex_);
     while (!wake_.wait_for(lock, std::chrono::milliseconds(250), [this] { return finished_; })) {
       if (interrupted && !cancelled) cancelled = engine_.cancel();
+      if (!draws_) continue;
       if (const auto progress = engine_.progress()) DrawProgress(*progress, start);
     }
   }
 
   Engine& engine_;
+  const bool draws_;
   std::mutex mutex_;
   std::condition_variable wake_;
   bool finished_ = false;
@@ -166,7 +170,10 @@ std::optional<OpenedProject> OpenForReading(const std::string& path, Messages& m
   return opened;
 }
 
-int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageBox& box) {
+namespace {
+
+int RunAsMember(const RunArguments& arguments, Messages& messages, StderrMessageBox& box, LibraryEngine& engine,
+                const RunTeam& team) {
   const auto opened = OpenForReading(arguments.project, messages, box);
   if (!opened) return 1;
   if (opened->document.scenarios.Count() == 0) {
@@ -175,8 +182,9 @@ int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageB
   }
   const std::string list = ScenarioList(opened->document, arguments, messages);
   if (list.empty()) return 1;
-  WarnOfEmptyStarts(opened->document, arguments);
+  if (team.leads()) WarnOfEmptyStarts(opened->document, arguments);
   const std::filesystem::path projectFolder = std::filesystem::absolute(arguments.project).parent_path();
+  // Each process of a team saves a work file of its own, under a fresh name.
   basSimulation::RunRequest request{CreateWorkFile(ProgramFolder()), list, EngineOptions(opened->document, arguments),
                                     arguments.resume ? "+" : ""};
   // The desktop program keeps the work copy of a failed run for a look; here
@@ -184,24 +192,44 @@ int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageB
   const WorkFileRemoval removal{request.workFile};
   SaveProject(opened->document, request.workFile.string(), messages);
   std::filesystem::current_path(projectFolder);
-  LibraryEngine engine;
   NoCursor cursor;
   // Ctrl+C, a kill and a closed terminal all stop the engine the same way,
   // so that no extra file is left half written.
   for (int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, OnInterrupt);
   std::optional<std::string> reply;
   {
-    Watcher watcher(engine);
+    Watcher watcher(engine, team.leads());
     reply = basSimulation::Run(engine, cursor, messages, request);
   }
   for (int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, SIG_DFL);
   if (!reply) return 1;
   if (!reply->starts_with("Message")) {
-    std::cerr << Cp1252ToUtf8(*reply) << "\n";
+    if (team.leads()) std::cerr << Cp1252ToUtf8(*reply) << "\n";
     return 1;
   }
-  PrintSummary(*reply);
+  if (team.leads()) PrintSummary(*reply);
   return 0;
+}
+
+}  // namespace
+
+int RunProject(const RunArguments& arguments, Messages& messages, StderrMessageBox& box) {
+  LibraryEngine engine;
+  RunTeam team(engine, box);
+  if (!team.error().empty()) {
+    std::cerr << Cp1252ToUtf8(team.error()) << "\n";
+    return 1;
+  }
+  int code = 1;
+  try {
+    code = RunAsMember(arguments, messages, box, engine, team);
+  } catch (const std::exception& error) {
+    team.stoppedBy(error.what());
+    if (!team.leads()) return 1;
+    throw;
+  }
+  if (box.sawProblem()) team.stoppedBy(arguments.project + ": " + box.firstMessage());
+  return code;
 }
 
 }  // namespace tamsic

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdlib>
 #include <exception>
+#include <memory>
 #include <string>
 
 #include "Codes.h"
@@ -14,6 +15,9 @@
 #include "sim/CheckIn.h"
 #include "sim/RunMonitor.h"
 #include "sim/Runner.h"
+#include "sim/SimError.h"
+#include "sim/Team.h"
+#include "sim/TeamRun.h"
 #include "tamsic.h"
 
 namespace {
@@ -36,6 +40,27 @@ void Answer(TamsicVariant* result, Reply&& reply) noexcept {
   } catch (...) {
     SetReply(result, "Error: internal failure");
   }
+}
+
+// The processes this one shares its run with, from tamsicTeamJoin to
+// tamsicTeamLeave. A team runs one study: its processes meet once, at the
+// start of the run.
+struct Membership {
+  std::unique_ptr<tamsic::sim::Team> team;
+  bool ran = false;
+};
+
+Membership& Joined() {
+  static Membership membership;
+  return membership;
+}
+
+std::string RunWithTeam(const std::string& path, const std::string& scenarios, const std::string& options) {
+  Membership& joined = Joined();
+  if (!joined.team) return tamsic::sim::RunScenarios(path, scenarios, options);
+  if (joined.ran) return "Error: the processes of an MPI job run one study together, and this one has run";
+  joined.ran = true;
+  return tamsic::sim::RunScenarios(path, scenarios, options, *joined.team);
 }
 
 std::string CheckFormula(const std::string& text) {
@@ -62,8 +87,8 @@ void tamsicFreeVariant(TamsicVariant* result) {
 void tamsicsim(TamsicVariant* result, const int16_t* path, int32_t pathCount, int32_t, int32_t,
                const int16_t* scenarios, int32_t scenariosCount, const int16_t* options, int32_t optionsCount) {
   Answer(result, [&] {
-    return tamsic::sim::RunScenarios(TextFromCodes(path, pathCount), TextFromCodes(scenarios, scenariosCount),
-                                     TextFromCodes(options, optionsCount));
+    return RunWithTeam(TextFromCodes(path, pathCount), TextFromCodes(scenarios, scenariosCount),
+                       TextFromCodes(options, optionsCount));
   });
 }
 
@@ -122,6 +147,27 @@ void tamsicCancel(TamsicVariant* result) {
   Answer(result, [] {
     tamsic::sim::RunMonitor::get().requestCancel();
     return "Message: cancel requested";
+  });
+}
+
+void tamsicTeamJoin(TamsicVariant* result) {
+  Answer(result, []() -> std::string {
+    Membership& joined = Joined();
+    try {
+      if (!joined.team) joined.team = tamsic::sim::JoinTeam();
+    } catch (const tamsic::sim::SimError& fault) {
+      return std::string("Error: ") + fault.what();
+    }
+    return std::to_string(joined.team->rank()) + ";" + std::to_string(joined.team->size());
+  });
+}
+
+void tamsicTeamLeave(TamsicVariant* result, const int16_t* reason, int32_t count) {
+  Answer(result, [&] {
+    Membership& joined = Joined();
+    if (joined.team && !joined.ran) tamsic::sim::StandDown(*joined.team, TextFromCodes(reason, count));
+    joined = Membership{};
+    return "Message: left";
   });
 }
 

@@ -152,6 +152,25 @@ TAMSIC_API void tamsicProgress(TamsicVariant* result);
  */
 TAMSIC_API void tamsicCancel(TamsicVariant* result);
 
+/*
+ * Joins the processes that a launcher (mpirun, srun) started together with
+ * this one, when the library was built with MPI, so that the next tamsicsim
+ * call, which each of them makes, runs the study once among them: each runs
+ * a share of the iterations and rank 0 alone writes the files. A process
+ * started alone stays alone and never initialises MPI. Reply: "RANK;SIZE"
+ * ("0;1" alone), or "Error: ..." when the processes cannot work together
+ * (for one, a library built without MPI).
+ */
+TAMSIC_API void tamsicTeamJoin(TamsicVariant* result);
+
+/*
+ * Leaves the team after the run (finalising MPI). A process that leaves
+ * without having called tamsicsim tells the others at the start of their
+ * run that it cannot take part; `reason` (may be empty) says why. Reply:
+ * "Message: left".
+ */
+TAMSIC_API void tamsicTeamLeave(TamsicVariant* result, const int16_t* reason, int32_t count);
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,7 +1,7 @@
 #include "sim/Runner.h"
 
-#include <ctime>
 #include <filesystem>
+#include <optional>
 #include <random>
 
 #include "files/OutputNames.h"
@@ -13,9 +13,11 @@
 #include "report/Outcome.h"
 #include "sim/ProjectReader.h"
 #include "sim/ReadModel.h"
+#include "sim/RunDate.h"
 #include "sim/RunMonitor.h"
 #include "sim/SimError.h"
 #include "sim/Simulate.h"
+#include "sim/TeamRun.h"
 
 namespace tamsic::sim {
 
@@ -34,13 +36,6 @@ std::vector<std::string> ScenarioNames(std::string list) {
     start = end + 1;
   }
   return names;
-}
-
-std::string Now() {
-  const std::time_t now = std::time(nullptr);
-  char text[32];
-  std::strftime(text, sizeof text, "%Y-%m-%d %H:%M", std::localtime(&now));
-  return text;
 }
 
 // A scenario's files are written under temporary names and moved into place
@@ -76,11 +71,12 @@ struct Finished {
 };
 
 Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, const Options& options,
-                std::uint64_t seed) {
+                std::uint64_t seed, Crew& crew) {
   const Model model = ReadModel(scenario, std::filesystem::current_path(), options);
   std::vector<LifeTable> tables;
   for (int p = 0; p < model.populations; ++p) tables.push_back(BuildLifeTable(model, p));
-  const std::string date = Now();
+  const std::string date = RunDate();
+  const Crew::Part part = crew.next(model.iterations);
   const std::string& title = project.title;
   report::ExtraFiles extra(model, title);
   std::optional<report::GeneticFiles> genetic;
@@ -95,7 +91,8 @@ Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, con
                        [&](int iteration, const IterationRecord& record) {
                          extra.add(iteration, record);
                          genetic->add(iteration, record);
-                       });
+                       },
+                       part.share, part.remote);
   } catch (...) {
     discard();
     throw;
@@ -151,15 +148,47 @@ UnfinishedRun TakeUp(const std::string& title, const std::vector<std::string>& n
   return {options.seed ? *options.seed : DrawnSeed(), names, {}};
 }
 
-std::string Run(const std::string& workFile, const std::string& bracedList, const std::string& optionText) {
-  const ProjectDocument project = ReadWorkFile(workFile);
-  const std::vector<std::string> names = ScenarioNames(bracedList);
-  if (names.empty()) throw SimError("no scenario was named to run");
-  const Options options = ParseOptions(optionText);
+struct Setup {
+  ProjectDocument project;
+  std::vector<std::string> names;
+  Options options;
+};
+
+Setup SetUp(const std::string& workFile, const std::string& bracedList, const std::string& optionText) {
+  Setup setup{ReadWorkFile(workFile), ScenarioNames(bracedList), ParseOptions(optionText)};
+  if (setup.names.empty()) throw SimError("no scenario was named to run");
+  return setup;
+}
+
+// Every process of the team reads the project; rank 0 alone takes up the
+// run (its record beside the files, a seed drawn) and tells the others.
+std::string Run(const std::string& workFile, const std::string& bracedList, const std::string& optionText,
+                Team& team) {
+  std::optional<Setup> setup;
+  std::optional<UnfinishedRun> taken;
+  std::vector<std::string> now;
+  std::string problem;
+  try {
+    setup.emplace(SetUp(workFile, bracedList, optionText));
+    if (team.rank() == 0) {
+      taken = TakeUp(setup->project.title, setup->names, setup->options);
+      now = ScenariosToRun(".", setup->project.title, setup->names, setup->options.runMode);
+    }
+  } catch (const std::exception& fault) {
+    problem = fault.what();
+  }
+  const RunPlan plan = Muster(team, problem, {taken ? taken->seed : 0, now});
+  if (team.rank() != 0) {
+    Help(setup->project, plan, setup->options, team);
+    return "Message: rank " + std::to_string(team.rank()) + " ran its share";
+  }
+  Crew crew(team);
+  const ProjectDocument& project = setup->project;
+  const std::vector<std::string>& names = setup->names;
+  const Options& options = setup->options;
   const std::string& title = project.title;
-  UnfinishedRun run = TakeUp(title, names, options);
+  UnfinishedRun& run = *taken;
   const bool stepwise = options.runMode == "META";
-  const std::vector<std::string> now = ScenariosToRun(".", title, names, options.runMode);
   WriteUnfinishedRun(".", title, run);
   RunMonitor::get().start(TotalIterations(project, now));
   std::string summary;
@@ -167,7 +196,7 @@ std::string Run(const std::string& workFile, const std::string& bracedList, cons
     const clsScenario& scenario = FindScenario(project, name);
     Finished finished;
     try {
-      finished = RunOne(project, scenario, options, run.seed);
+      finished = RunOne(project, scenario, options, run.seed, crew);
     } catch (const SimError& fault) {
       throw SimError("scenario \"" + name + "\": " + fault.what());
     }
@@ -192,9 +221,15 @@ std::string Run(const std::string& workFile, const std::string& bracedList, cons
 }  // namespace
 
 std::string RunScenarios(const std::string& workFile, const std::string& bracedList, const std::string& options) {
+  SoloTeam alone;
+  return RunScenarios(workFile, bracedList, options, alone);
+}
+
+std::string RunScenarios(const std::string& workFile, const std::string& bracedList, const std::string& options,
+                         Team& team) {
   std::string reply;
   try {
-    reply = Run(workFile, bracedList, options);
+    reply = Run(workFile, bracedList, options, team);
   } catch (const std::exception& fault) {
     reply = std::string("Error: ") + fault.what();
   }

@@ -55,6 +55,13 @@ class LibraryEngine : public Engine {
   std::optional<std::string> progress() override;
   bool cancel() override;
   void close() override;
+
+  // The processes that a launcher started together with this one, joined
+  // to share the next run (tamsicTeamJoin): "RANK;SIZE", "0;1" alone or
+  // when the library has no teams, or "Error: ...".
+  std::string joinTeam();
+  // After the run; `reason` says why when this process did not take part in it.
+  void leaveTeam(const std::string& reason);
 };
 
 }  // namespace tamsic

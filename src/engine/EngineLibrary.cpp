@@ -37,6 +37,8 @@ EngineExports ResolveExports(void* handle) {
   Resolve(handle, "tamsicFreeVariant", e.tamsicFreeVariant, true);
   Resolve(handle, "tamsicProgress", e.tamsicProgress, false);
   Resolve(handle, "tamsicCancel", e.tamsicCancel, false);
+  Resolve(handle, "tamsicTeamJoin", e.tamsicTeamJoin, false);
+  Resolve(handle, "tamsicTeamLeave", e.tamsicTeamLeave, false);
   return e;
 }
 

@@ -20,7 +20,7 @@ class EngineUnavailable : public TamsicError {
       : TamsicError(0, "Engine", description) {}
 };
 
-// The exports, typed by the shared header. The last two are optional and
+// The exports, typed by the shared header. The last four are optional and
 // null when the library lacks them.
 struct EngineExports {
   decltype(&::tamsicsim) tamsicsim = nullptr;
@@ -35,6 +35,8 @@ struct EngineExports {
   decltype(&::tamsicFreeVariant) tamsicFreeVariant = nullptr;
   decltype(&::tamsicProgress) tamsicProgress = nullptr;
   decltype(&::tamsicCancel) tamsicCancel = nullptr;
+  decltype(&::tamsicTeamJoin) tamsicTeamJoin = nullptr;
+  decltype(&::tamsicTeamLeave) tamsicTeamLeave = nullptr;
 };
 
 struct LoadedEngine {

@@ -99,6 +99,17 @@ bool LibraryEngine::cancel() {
   return true;
 }
 
+std::string LibraryEngine::joinTeam() {
+  if (EngineLibrary::get().exports.tamsicTeamJoin == nullptr) return "0;1";
+  return Ask([](const EngineExports& e, TamsicVariant* result) { e.tamsicTeamJoin(result); });
+}
+
+void LibraryEngine::leaveTeam(const std::string& reason) {
+  if (EngineLibrary::get().exports.tamsicTeamLeave == nullptr) return;
+  const auto codes = TextToCodes(reason);
+  Ask([&](const EngineExports& e, TamsicVariant* result) { e.tamsicTeamLeave(result, codes.data(), Count(codes)); });
+}
+
 void LibraryEngine::close() {
   Ask([](const EngineExports& e, TamsicVariant* result) { e.tamsdllclose(result); });
   Ask([](const EngineExports& e, TamsicVariant* result) { e.tamsicWindowClose(result); });
