@@ -132,13 +132,15 @@ std::string EngineOptions(const ProjectDocument& project, const RunArguments& ar
 }
 
 void PrintSummary(const std::string& reply) {
-  const auto colon = reply.find("): ");
-  if (colon == std::string::npos) {
+  // The head may hold a bracket of its own ("(1 scenario finished before kept)"), so the field list is found by name.
+  const auto fields = reply.find(" (scenario;");
+  const auto colon = reply.find("): ", fields);
+  if (fields == std::string::npos || colon == std::string::npos) {
     std::cout << Cp1252ToUtf8(reply) << "\n";
     return;
   }
-  std::cout << Cp1252ToUtf8(reply.substr(0, reply.find(" (scenario;"))) << "\n";
-  std::cout << reply.substr(reply.find('(') + 1, colon - reply.find('(') - 1) << "\n";
+  std::cout << Cp1252ToUtf8(reply.substr(0, fields)) << "\n";
+  std::cout << reply.substr(fields + 2, colon - fields - 2) << "\n";
   std::string lines = reply.substr(colon + 3);
   for (std::size_t at = lines.find(" | "); at != std::string::npos; at = lines.find(" | ")) lines.replace(at, 3, "\n");
   std::cout << Cp1252ToUtf8(lines) << "\n";

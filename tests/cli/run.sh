@@ -36,6 +36,7 @@ awk '/^RepRates1=/ { n++; if (n == 2) sub(/"Northern ridge";"65"/, "\"Northern r
 [ $? -eq 1 ] && [ -f "$work/Koalas in three fragments.resume" ] || fail "a failed run keeps its record"
 "$cli" run "$work/K.tpj" --scenario Baseline --scenario Managed --resume > "$work/out" 2> "$work/err" || fail "resume"
 grep -q '^Managed;10;6;' "$work/out" && ! grep -q '^Baseline;' "$work/out" || fail "resume runs only what was left"
+grep -q "finished before kept)$" "$work/out" || fail "the summary heading of a resumed run"
 [ ! -f "$work/Koalas in three fragments.resume" ] || fail "a finished run leaves no record"
 "$cli" run "$work/K.tpj" --resume > /dev/null 2> "$work/err"
 [ $? -eq 1 ] && grep -q 'no unfinished run' "$work/err" || fail "nothing to resume"
