@@ -11,6 +11,8 @@
 #include "report/ExtraFiles.h"
 #include "report/GeneticFiles.h"
 #include "report/Outcome.h"
+#include "sim/Estimate.h"
+#include "sim/MemoryNeed.h"
 #include "sim/ProjectReader.h"
 #include "sim/ReadModel.h"
 #include "sim/RunMonitor.h"
@@ -80,6 +82,7 @@ Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, con
   const Model model = ReadModel(scenario, std::filesystem::current_path(), options);
   std::vector<LifeTable> tables;
   for (int p = 0; p < model.populations; ++p) tables.push_back(BuildLifeTable(model, p));
+  CheckMemory(model, NeedFromModel(model, tables), MeasureMemoryRoom());
   const std::string date = Now();
   const std::string& title = project.title;
   report::ExtraFiles extra(model, title);
@@ -160,6 +163,7 @@ std::string Run(const std::string& workFile, const std::string& bracedList, cons
   UnfinishedRun run = TakeUp(title, names, options);
   const bool stepwise = options.runMode == "META";
   const std::vector<std::string> now = ScenariosToRun(".", title, names, options.runMode);
+  if (options.estimate) return EstimateReply(EstimateRun(project, now, options, run.seed, MeasureMemoryRoom()));
   WriteUnfinishedRun(".", title, run);
   RunMonitor::get().start(TotalIterations(project, now));
   std::string summary;
