@@ -42,8 +42,7 @@ struct Scenario {
   double setupSeconds = 0.0;  // reading the model and building its life tables
   double cost = 0.0;          // individual-years of an iteration by the projection
   MemoryNeed need;            // by the model
-  std::optional<Pilot> pilot;
-  double secondsPerIteration = 0.0;
+  std::optional<Pilot> pilot;  // of its own, or scaled from a piloted neighbour's
   double perThreadBytes = 0.0;
 };
 
@@ -77,13 +76,14 @@ Scenario Prepare(const ProjectDocument& project, const std::string& name, const 
   // Every year of an iteration costs something, populations or not.
   s.cost = IndividualYears(model, tables) + model.years * model.populations;
   s.need = NeedFromModel(model, tables);
-  if (!limits || model.iterations <= 0) return s;
+  s.perThreadBytes = s.need.perThread;
+  // A scenario the run would refuse is not piloted: its first iteration alone might not fit.
+  if (!limits || model.iterations <= 0 || s.need.peak(room.baseline) > room.available) return s;
   PilotLimits own = *limits;
   own.roomPerThread = (room.available - room.baseline - s.need.runWide) / s.threads;
   own.mostIterations = std::max(2 * s.threads, static_cast<int>(kPilotIterationShare * model.iterations));
   s.pilot = RunPilot(model, StartingPopulations(model, tables), seed, s.threads, own);
   if (s.pilot->cancelled) throw SimError("the estimate was cancelled");
-  s.secondsPerIteration = s.pilot->secondsPerIteration;
   // The option W's room is set aside whether the living fill it or not.
   s.perThreadBytes = model.options.reserveIndividuals > 0 ? std::max(s.pilot->perThreadBytes, s.need.perThread)
                                                             : s.pilot->perThreadBytes;
@@ -95,18 +95,18 @@ Scenario Prepare(const ProjectDocument& project, const std::string& name, const 
 // the list: the scenarios of a sensitivity study that derive from one
 // baseline sit together, after it, and differ from it in a few inputs.
 void Scale(std::vector<Scenario>& scenarios) {
+  const auto piloted = [&](std::size_t j) { return scenarios[j].pilot && scenarios[j].pilot->iterations > 0; };
   for (std::size_t i = 0; i < scenarios.size(); ++i) {
     if (scenarios[i].pilot) continue;
+    const auto distance = [&](std::size_t k) { return i > k ? i - k : k - i; };
     std::optional<std::size_t> nearest;
-    for (std::size_t j = 0; j < scenarios.size(); ++j) {
-      const auto distance = [&](std::size_t k) { return i > k ? i - k : k - i; };
-      if (scenarios[j].pilot && scenarios[j].pilot->iterations > 0 && (!nearest || distance(j) < distance(*nearest)))
-        nearest = j;
-    }
+    for (std::size_t j = 0; j < scenarios.size(); ++j)
+      if (piloted(j) && (!nearest || distance(j) < distance(*nearest))) nearest = j;
     if (!nearest) continue;
     const Scenario& known = scenarios[*nearest];
     Scenario& s = scenarios[i];
-    s.secondsPerIteration = known.secondsPerIteration / known.cost * s.cost;
+    const double time = s.cost / known.cost;
+    s.pilot = Pilot{0, known.pilot->firstSeconds * time, known.pilot->laterSeconds * time, 0.0, false};
     s.perThreadBytes = known.need.perThread > 0 ? known.perThreadBytes / known.need.perThread * s.need.perThread
                                                 : s.need.perThread;
   }
@@ -114,7 +114,7 @@ void Scale(std::vector<Scenario>& scenarios) {
 
 ScenarioEstimate Sum(const Scenario& s, const MemoryRoom& room) {
   ScenarioEstimate e{s.name, s.iterations, s.pilot ? s.pilot->iterations : 0};
-  e.seconds = s.setupSeconds + s.secondsPerIteration * s.iterations / s.threads;
+  e.seconds = s.setupSeconds + (s.pilot ? s.pilot->seconds(s.iterations, s.threads) : 0.0);
   e.peakBytes = room.baseline + s.threads * s.perThreadBytes + s.need.runWide;
   e.checkedBytes = s.need.peak(room.baseline);
   e.fits = std::max(e.peakBytes, e.checkedBytes) <= room.available;

@@ -19,14 +19,27 @@ using Clock = std::chrono::steady_clock;
 
 double SecondsSince(Clock::time_point start) { return std::chrono::duration<double>(Clock::now() - start).count(); }
 
+struct Mean {
+  double sum = 0.0;
+  int count = 0;
+  void add(double x) { sum += x, ++count; }
+  double value() const { return count > 0 ? sum / count : 0.0; }
+};
+
+// One worker thread's state, kept from iteration to iteration as the run keeps it.
+struct Worker {
+  World world{0, 0};
+  IterationRecord record;
+  int iterations = 0;
+};
+
 // What the pilot's threads found, gathered under a lock.
 class Tally {
  public:
-  void iteration(double seconds, std::size_t bytes) {
+  void iteration(const Worker& worker, double seconds) {
     std::lock_guard lock(mutex_);
-    seconds_ += seconds;
-    ++count_;
-    bytes_ = std::max(bytes_, bytes);
+    (worker.iterations == 1 ? first_ : later_).add(seconds);
+    bytes_ = std::max(bytes_, HeldBytes(worker.world) + HeldBytes(worker.record));
   }
   // The fault of the lowest iteration is the one the run would report.
   void fail(int iteration, const std::string& message) {
@@ -39,26 +52,19 @@ class Tally {
     return cancelled_ || error_.has_value();
   }
 
-  int count() const { return count_; }
-  double seconds() const { return seconds_; }
+  const Mean& first() const { return first_; }
+  const Mean& later() const { return later_; }
   std::size_t bytes() const { return bytes_; }
   bool cancelled() const { return cancelled_; }
   const std::optional<std::string>& error() const { return error_; }
 
  private:
   std::mutex mutex_;
-  double seconds_ = 0.0;
-  int count_ = 0;
+  Mean first_, later_;
   std::size_t bytes_ = 0;
   std::atomic<bool> cancelled_{false};
   std::optional<std::string> error_;
   int errorIteration_ = 0;
-};
-
-// One worker thread's state, kept from iteration to iteration as the run keeps it.
-struct Worker {
-  World world{0, 0};
-  IterationRecord record;
 };
 
 // Runs iteration `i` in the worker and tells the tally; false when the pilot is to stop.
@@ -77,43 +83,55 @@ bool Step(const Model& m, const std::vector<StartingNumbers>& start, std::uint64
     tally.fail(i, fault.what());
     return false;
   }
-  tally.iteration(SecondsSince(begin), HeldBytes(worker.world) + HeldBytes(worker.record));
+  ++worker.iterations;
+  tally.iteration(worker, SecondsSince(begin));
   return true;
 }
 
 }  // namespace
 
+double Pilot::seconds(int count, int threads) const {
+  return count <= 0 ? 0.0 : firstSeconds + laterSeconds * std::max(0.0, double(count) / threads - 1.0);
+}
+
 Pilot RunPilot(const Model& m, const std::vector<StartingNumbers>& start, std::uint64_t seed, int threads,
                const PilotLimits& limits) {
   const auto begin = Clock::now();
-  Tally first;
-  {
-    Worker alone;
-    Step(m, start, seed, 1, alone, first);
-  }
-  if (first.error()) throw SimError(*first.error());
-  Pilot pilot{first.count(), first.seconds(), static_cast<double>(first.bytes()), first.cancelled()};
+  Tally alone;
+  Worker kept;
+  Step(m, start, seed, 1, kept, alone);
+  if (alone.error()) throw SimError(*alone.error());
+  Pilot pilot;
+  pilot.iterations = kept.iterations;
+  pilot.firstSeconds = pilot.laterSeconds = alone.first().value();
+  pilot.perThreadBytes = static_cast<double>(alone.bytes());
+  pilot.cancelled = alone.cancelled();
   const int last = std::min(m.iterations, limits.mostIterations);
   if (pilot.cancelled || pilot.perThreadBytes > limits.roomPerThread || last <= 1) return pilot;
 
-  const double foretold = pilot.secondsPerIteration * m.iterations / threads;
-  const double allowed = std::clamp(limits.runShare * foretold, limits.leastSeconds, limits.mostSeconds);
+  const double allowed =
+      std::clamp(limits.runShare * pilot.seconds(m.iterations, threads), limits.leastSeconds, limits.mostSeconds);
   Tally side;
   std::atomic<int> next{2};
-  auto work = [&] {
-    Worker worker;
+  auto work = [&](Worker& worker) {
     for (int i = next++; i <= last && SecondsSince(begin) < allowed && !side.stopped(); i = next++)
       if (!Step(m, start, seed, i, worker, side)) return;
   };
   std::vector<std::thread> pool;
-  for (int t = 1; t < threads; ++t) pool.emplace_back(work);
-  work();
+  for (int t = 1; t < threads; ++t)
+    pool.emplace_back([&] {
+      Worker worker;
+      work(worker);
+    });
+  work(kept);
   for (std::thread& t : pool) t.join();
   if (side.error()) throw SimError(*side.error());
   pilot.cancelled = side.cancelled();
-  pilot.iterations += side.count();
+  pilot.iterations += side.first().count + side.later().count;
   pilot.perThreadBytes = std::max(pilot.perThreadBytes, static_cast<double>(side.bytes()));
-  if (side.count() > 0) pilot.secondsPerIteration = side.seconds() / side.count();
+  // Iteration 1 ran without the others beside it: a first iteration beside them tells better.
+  if (side.first().count > 0) pilot.firstSeconds = side.first().value();
+  pilot.laterSeconds = side.later().count > 0 ? side.later().value() : pilot.firstSeconds;
   return pilot;
 }
 
