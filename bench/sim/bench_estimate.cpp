@@ -50,7 +50,8 @@ Child RunCli(std::vector<std::string> arguments) {
   close(pipe[1]);
   Child result;
   char buffer[4096];
-  for (ssize_t n; (n = read(pipe[0], buffer, sizeof buffer)) > 0;) result.output.append(buffer, static_cast<std::size_t>(n));
+  for (ssize_t n; (n = read(pipe[0], buffer, sizeof buffer)) > 0;)
+    result.output.append(buffer, static_cast<std::size_t>(n));
   close(pipe[0]);
   int status = 0;
   rusage usage{};

@@ -119,7 +119,8 @@ void GenomePool::layout(bool wide) {
 std::size_t GenomePool::GenomeBytes(const GenomeShape& shape) {
   const std::size_t blocks = static_cast<std::size_t>((shape.loci() + kLanes<16> - 1) / kLanes<16>);
   const std::size_t lethalWords = static_cast<std::size_t>((shape.lethalLoci + 63) / 64);
-  return (2 * kBlockWords * blocks + 2 * lethalWords + kLineWords - 1) / kLineWords * kLineWords * sizeof(std::uint64_t);
+  const std::size_t words = (2 * kBlockWords * blocks + 2 * lethalWords + kLineWords - 1) / kLineWords * kLineWords;
+  return words * sizeof(std::uint64_t);
 }
 
 std::size_t GenomePool::bytes() const {

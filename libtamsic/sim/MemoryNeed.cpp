@@ -32,7 +32,8 @@ std::vector<double> Founders(const Model& m, const std::vector<LifeTable>& table
   if (const auto& book = m.genetics.studbook) {
     for (std::size_t p = 0; p < founders.size(); ++p)
       if (book->populates(static_cast<int>(p))) founders[p] = 0.0;
-    for (int i : book->living) founders[static_cast<std::size_t>(book->animals[static_cast<std::size_t>(i)].population)] += 1.0;
+    for (int i : book->living)
+      founders[static_cast<std::size_t>(book->animals[static_cast<std::size_t>(i)].population)] += 1.0;
   }
   return founders;
 }

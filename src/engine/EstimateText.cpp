@@ -35,6 +35,8 @@ std::string Duration(double seconds) {
 }
 
 std::string DescribeEstimate(const RunEstimate& e) {
+  // Nothing is piloted when no scenario would fit: only the model's figure is known.
+  if (e.piloted == 0) return "about " + MemoryAmount(e.peakBytes) + " at the peak by the model, nothing piloted";
   return PeakAndTime(e.seconds, e.peakBytes) + ", from a pilot of " + std::to_string(e.piloted) +
          (e.piloted == 1 ? " iteration" : " iterations");
 }
