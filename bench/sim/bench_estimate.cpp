@@ -4,14 +4,17 @@
 // in a fresh process, as a user would; the run's wall time is measured here
 // and its peak resident memory taken from wait4. Prints estimate / run.
 // The machine may be shared: load slows the pilot and the run alike, but
-// not always at the same moments.
-//   bench_estimate [--threads N] PROJECT.tpj...
+// not always at the same moments; with RUNS above 1 each figure is the
+// median of so many estimates and runs, taken in turn.
+//   bench_estimate [--threads N] [--runs RUNS] PROJECT.tpj...
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -73,17 +76,30 @@ fs::path CopyProject(const fs::path& project, const fs::path& folder) {
   return folder / project.filename();
 }
 
+double Median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  const std::size_t n = values.size();
+  return n % 2 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2;
+}
+
+struct Row {
+  std::vector<double> estimatedSeconds, runSeconds, estimatedBytes, runBytes, pilotSeconds;
+  int piloted = 0;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
   std::string threads = "0";
+  int runs = 1;
   std::vector<fs::path> projects;
   for (int a = 1; a < argc; ++a) {
     if (std::string(argv[a]) == "--threads" && a + 1 < argc) threads = argv[++a];
+    else if (std::string(argv[a]) == "--runs" && a + 1 < argc) runs = std::max(1, std::atoi(argv[++a]));
     else projects.push_back(fs::absolute(argv[a]));
   }
   if (projects.empty()) {
-    std::cerr << "usage: bench_estimate [--threads N] PROJECT.tpj...\n";
+    std::cerr << "usage: bench_estimate [--threads N] [--runs RUNS] PROJECT.tpj...\n";
     return 2;
   }
   const fs::path scratch = fs::temp_directory_path() / "tamsic-bench-estimate";
@@ -92,17 +108,31 @@ int main(int argc, char** argv) {
   int failures = 0;
   for (const fs::path& original : projects) {
     const std::string project = CopyProject(original, scratch / original.stem()).string();
-    const Child asked = RunCli({"estimate", project, "--seed", "1", "--threads", threads, "--reply"});
-    const Child run = RunCli({"run", project, "--seed", "1", "--threads", threads, "--no-estimate"});
-    const auto estimate = tamsic::ParseEstimate(asked.output.substr(0, asked.output.find('\n')));
-    if (!estimate || !run.ok) {
-      std::cerr << original.stem().string() << ": " << (estimate ? "the run failed" : asked.output) << "\n";
+    Row row;
+    for (int r = 0; r < runs; ++r) {
+      const Child asked = RunCli({"estimate", project, "--seed", "1", "--threads", threads, "--reply"});
+      const Child run = RunCli({"run", project, "--seed", "1", "--threads", threads, "--no-estimate"});
+      const auto estimate = tamsic::ParseEstimate(asked.output.substr(0, asked.output.find('\n')));
+      if (!estimate || !run.ok) {
+        std::cerr << original.stem().string() << ": " << (estimate ? "the run failed" : asked.output) << "\n";
+        break;
+      }
+      row.estimatedSeconds.push_back(estimate->seconds);
+      row.runSeconds.push_back(run.seconds);
+      row.estimatedBytes.push_back(estimate->peakBytes);
+      row.runBytes.push_back(run.peakBytes);
+      row.pilotSeconds.push_back(asked.seconds);
+      row.piloted = estimate->piloted;
+    }
+    if (static_cast<int>(row.runSeconds.size()) < runs) {
       ++failures;
       continue;
     }
-    std::printf("%-10s %8.2f %8.2f %6.2f %8.1f %8.1f %6.2f %8d %8.2f\n", original.stem().string().c_str(),
-                estimate->seconds, run.seconds, estimate->seconds / run.seconds, estimate->peakBytes / 1048576.0,
-                run.peakBytes / 1048576.0, estimate->peakBytes / run.peakBytes, estimate->piloted, asked.seconds);
+    const double seconds = Median(row.estimatedSeconds), actual = Median(row.runSeconds);
+    const double bytes = Median(row.estimatedBytes), peak = Median(row.runBytes);
+    std::printf("%-10s %8.2f %8.2f %6.2f %8.1f %8.1f %6.2f %8d %8.2f\n", original.stem().string().c_str(), seconds,
+                actual, seconds / actual, bytes / 1048576.0, peak / 1048576.0, bytes / peak, row.piloted,
+                Median(row.pilotSeconds));
   }
   fs::remove_all(scratch);
   return failures == 0 ? 0 : 1;

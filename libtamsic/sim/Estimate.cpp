@@ -25,8 +25,10 @@ namespace {
 constexpr double kPilotSeconds = 2.0;
 constexpr double kPilotShare = 0.03;
 constexpr double kMostPilotSeconds = 10.0;
-// A tenth of a scenario's iterations gives a steady mean; a short run need not be run twice.
+// A tenth of a scenario's iterations gives a steady mean, once the pilot
+// has run for a quarter of a second: a short run need not be run twice.
 constexpr double kPilotIterationShare = 0.1;
+constexpr double kSteadyPilotSeconds = 0.25;
 // A study of hundreds of scenarios pilots this many of them, spread evenly
 // over the list; each other scenario is scaled from the piloted one nearest
 // to it in the list (see Scale).
@@ -136,6 +138,7 @@ RunEstimate EstimateRun(const ProjectDocument& project, const std::vector<std::s
   limits.leastSeconds = kPilotSeconds / piloted;
   limits.runShare = kPilotShare;
   limits.mostSeconds = kMostPilotSeconds / piloted;
+  limits.steadySeconds = kSteadyPilotSeconds / piloted;
   std::vector<Scenario> scenarios;
   for (std::size_t i = 0; i < names.size(); ++i) {
     try {

@@ -106,15 +106,19 @@ Pilot RunPilot(const Model& m, const std::vector<StartingNumbers>& start, std::u
   pilot.firstSeconds = pilot.laterSeconds = alone.first().value();
   pilot.perThreadBytes = static_cast<double>(alone.bytes());
   pilot.cancelled = alone.cancelled();
-  const int last = std::min(m.iterations, limits.mostIterations);
-  if (pilot.cancelled || pilot.perThreadBytes > limits.roomPerThread || last <= 1) return pilot;
+  if (pilot.cancelled || pilot.perThreadBytes > limits.roomPerThread || m.iterations <= 1) return pilot;
 
   const double allowed =
       std::clamp(limits.runShare * pilot.seconds(m.iterations, threads), limits.leastSeconds, limits.mostSeconds);
   Tally side;
   std::atomic<int> next{2};
+  const auto goOn = [&](int i) {
+    const double elapsed = SecondsSince(begin);
+    return i <= m.iterations && elapsed < allowed && (i <= limits.mostIterations || elapsed < limits.steadySeconds) &&
+           !side.stopped();
+  };
   auto work = [&](Worker& worker) {
-    for (int i = next++; i <= last && SecondsSince(begin) < allowed && !side.stopped(); i = next++)
+    for (int i = next++; goOn(i); i = next++)
       if (!Step(m, start, seed, i, worker, side)) return;
   };
   std::vector<std::thread> pool;

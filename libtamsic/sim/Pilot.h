@@ -25,7 +25,8 @@ struct PilotLimits {
   double leastSeconds = 0.0;  // the time allowed, whatever the run's length ...
   double runShare = 0.0;      // ... or this share of the run as iteration 1 foretells it, whichever is more ...
   double mostSeconds = 0.0;   // ... but never more than this
-  int mostIterations = 1;     // and no more iterations than these
+  int mostIterations = 1;     // and no more iterations than these ...
+  double steadySeconds = 0.0;  // ... once it has run this long: a pilot of a few milliseconds tells little
   double roomPerThread = 0.0;  // bytes each of the run's threads may hold
 };
 
