@@ -131,6 +131,7 @@ std::string Field(const char* key, double value) {
 
 RunEstimate EstimateRun(const ProjectDocument& project, const std::vector<std::string>& names,
                         const Options& options, std::uint64_t seed, const MemoryRoom& room) {
+  // No iterations to count, and a cancel request left over from an earlier run must not stop the pilot.
   RunMonitor::get().start(0);
   const std::vector<bool> sample = Sample(names.size());
   const auto piloted = static_cast<double>(std::count(sample.begin(), sample.end(), true));

@@ -20,7 +20,10 @@ constexpr double kKinshipCell = sizeof(float);
 
 int Blocks(const Model& m) { return m.populations > 1 ? m.populations + 1 : 1; }
 
-double Capacity(std::size_t count) { return static_cast<double>(std::bit_ceil(std::max<std::size_t>(count, 1))); }
+// The capacity of an array that doubles as it grows, once it holds `count` items.
+double ArrayCapacity(std::size_t count) {
+  return static_cast<double>(std::bit_ceil(std::max<std::size_t>(count, 1)));
+}
 
 // The founders of each population: a studbook's living, or the starting numbers.
 std::vector<double> Founders(const Model& m, const std::vector<LifeTable>& tables) {
@@ -78,7 +81,7 @@ int RunThreads(const Model& m) {
 double ResultsBytes(const Model& m) {
   const double cells = static_cast<double>(Blocks(m)) * (m.years + 1);
   const auto finals = static_cast<std::size_t>(std::max(0, m.iterations)) * static_cast<std::size_t>(Blocks(m));
-  return cells * (sizeof(YearStats) + m.userVariables * sizeof(Moments)) + Capacity(finals) * sizeof(FinalState);
+  return cells * (sizeof(YearStats) + m.userVariables * sizeof(Moments)) + ArrayCapacity(finals) * sizeof(FinalState);
 }
 
 std::vector<std::vector<double>> ProjectedNumbers(const Model& m, const std::vector<LifeTable>& tables) {
@@ -117,7 +120,7 @@ MemoryNeed NeedFromModel(const Model& m, const std::vector<LifeTable>& tables) {
                                4 * sizeof(std::uint32_t);  // the free slots and the steps' three work arrays
   double perThread = living * perIndividual;
   if (m.genetics.exactKinship()) {
-    const double side = Capacity(static_cast<std::size_t>(std::min<double>(living, kExactKinshipSlots)));
+    const double side = ArrayCapacity(static_cast<std::size_t>(std::min<double>(living, kExactKinshipSlots)));
     perThread += side * side * kKinshipCell;
   }
   // A thread's own record, and one that finished out of order and waits.
