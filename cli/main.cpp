@@ -103,7 +103,7 @@ int Run(int argc, char** argv) {
   auto* estimate = app.add_subcommand("estimate", "Estimate the time and peak memory of a run from a short pilot, "
                                                   "without running it");
   estimate->add_option("FILE", run.project, "Project file (.tpj)")->required();
-  estimate->add_option("--scenario", run.scenarios, "Scenario to run (repeatable; default: all)");
+  estimate->add_option("--scenario", run.scenarios, "Scenario to estimate (repeatable; default: all)");
   auto* estimateSeed = estimate->add_option("--seed", seed, "Random seed of the run");
   estimate->add_option("--threads", run.threads, "Threads the run would use (default: every core)")
       ->check(CLI::NonNegativeNumber);
