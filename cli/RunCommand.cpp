@@ -20,6 +20,7 @@
 #include <mutex>
 #include <thread>
 
+#include "EstimateStep.h"
 #include "RunTeam.h"
 #include "engine/Engine.h"
 #include "engine/EmptyStart.h"
@@ -58,13 +59,13 @@ std::filesystem::path ProgramFolder() {
   return error ? std::filesystem::current_path() : self.parent_path();
 }
 
-// "[#########.......]  120/500 iterations, 0:42 left"
-void DrawProgress(const std::string& reply, std::chrono::steady_clock::time_point start) {
+// "[#########.......]  120/500 iterations, 0:42 left"; false when there is no run to show.
+bool DrawProgress(const std::string& reply, std::chrono::steady_clock::time_point start) {
   const auto cut = reply.find(';');
-  if (cut == std::string::npos) return;
+  if (cut == std::string::npos) return false;
   const long done = std::stol(reply.substr(0, cut));
   const long total = std::stol(reply.substr(cut + 1));
-  if (total <= 0) return;
+  if (total <= 0) return false;
   const int width = 30;
   const int filled = static_cast<int>(width * done / total);
   const double elapsed = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
@@ -72,6 +73,7 @@ void DrawProgress(const std::string& reply, std::chrono::steady_clock::time_poin
   std::cerr << "\r[" << std::string(static_cast<std::size_t>(filled), '#')
             << std::string(static_cast<std::size_t>(width - filled), '.') << "] " << done << "/" << total
             << " iterations, " << left / 60 << ":" << (left % 60 < 10 ? "0" : "") << left % 60 << " left " << std::flush;
+  return true;
 }
 
 // Watches the run until `finished`: progress every quarter second (when it draws), cancel on Ctrl+C.
@@ -85,7 +87,7 @@ class Watcher {
     }
     wake_.notify_all();
     thread_.join();
-    if (draws_) std::cerr << "\n";
+    if (drew_) std::cerr << "\n";
   }
 
  private:
@@ -96,7 +98,7 @@ class Watcher {
     while (!wake_.wait_for(lock, std::chrono::milliseconds(250), [this] { return finished_; })) {
       if (interrupted && !cancelled) cancelled = engine_.cancel();
       if (!draws_) continue;
-      if (const auto progress = engine_.progress()) DrawProgress(*progress, start);
+      if (const auto progress = engine_.progress()) drew_ = DrawProgress(*progress, start) || drew_;
     }
   }
 
@@ -105,6 +107,7 @@ class Watcher {
   std::mutex mutex_;
   std::condition_variable wake_;
   bool finished_ = false;
+  bool drew_ = false;
   std::thread thread_;
 };
 
@@ -198,12 +201,25 @@ int RunAsMember(const RunArguments& arguments, Messages& messages, StderrMessage
   // Ctrl+C, a kill and a closed terminal all stop the engine the same way,
   // so that no extra file is left half written.
   for (int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, OnInterrupt);
+  std::optional<int> ended;
+  // The pilot's figures are one process's; the processes of an MPI job go without.
+  const EstimateUse estimate =
+      arguments.estimate == EstimateUse::BeforeRun && !team.alone() ? EstimateUse::Skip : arguments.estimate;
+  if (estimate != EstimateUse::Skip) {
+    Watcher watcher(engine, team.leads());
+    ended = TellEstimate(engine, request, estimate);
+  }
   std::optional<std::string> reply;
-  {
+  if (!ended && !interrupted) {
     Watcher watcher(engine, team.leads());
     reply = basSimulation::Run(engine, cursor, messages, request);
   }
   for (int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, SIG_DFL);
+  if (ended) return *ended;
+  if (interrupted && !reply) {
+    std::cerr << "The run was cancelled before it started\n";
+    return 1;
+  }
   if (!reply) return 1;
   if (!reply->starts_with("Message")) {
     if (team.leads()) std::cerr << Cp1252ToUtf8(*reply) << "\n";

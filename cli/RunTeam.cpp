@@ -17,6 +17,7 @@ RunTeam::RunTeam(LibraryEngine& engine, StderrMessageBox& box) : engine_(engine)
     return;
   }
   rank_ = std::stoi(reply.substr(0, reply.find(';')));
+  size_ = std::stoi(reply.substr(reply.find(';') + 1));
   if (rank_ != 0) box.silence();
 }
 

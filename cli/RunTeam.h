@@ -22,12 +22,14 @@ class RunTeam {
   const std::string& error() const { return error_; }
   // Rank 0 (a process alone too) prints and writes for the team.
   bool leads() const { return rank_ == 0; }
+  bool alone() const { return size_ == 1; }
   // Why this process stopped, for the others when it stopped before the run.
   void stoppedBy(const std::string& reason) { reason_ = reason; }
 
  private:
   LibraryEngine& engine_;
   int rank_ = 0;
+  int size_ = 1;
   std::string error_;
   std::string reason_;
 };

@@ -1,8 +1,11 @@
 // tamsic-cli: works with project files without the desktop program.
 //   tamsic-cli info FILE.tpj        what the project holds
 //   tamsic-cli resave IN.tpj OUT.tpj  load a project and save it again
-//   tamsic-cli run FILE.tpj [--scenario NAME]... [--seed N] [--threads N]
-//                                   simulate scenarios (all when none is named)
+//   tamsic-cli run FILE.tpj [--scenario NAME]... [--seed N] [--threads N] [--no-estimate]
+//                                   simulate scenarios (all when none is named),
+//                                   after an estimate of time and memory
+//   tamsic-cli estimate FILE.tpj [--scenario NAME]... [--seed N] [--threads N] [--reply]
+//                                   only the estimate
 //   tamsic-cli st FILE.tpj [--out OUT.tpj]
 //                                   generate the sensitivity-test scenarios
 // Every failure ends with the program's message on stderr and exit code 1;
@@ -95,6 +98,17 @@ int Run(int argc, char** argv) {
   simulate->add_flag("--resume", run.resume,
                      "Go on with a run that was interrupted or failed: its seed, and only the scenarios it did not "
                      "finish");
+  bool noEstimate = false;
+  simulate->add_flag("--no-estimate", noEstimate, "Run without first estimating the run's time and memory");
+  auto* estimate = app.add_subcommand("estimate", "Estimate the time and peak memory of a run from a short pilot, "
+                                                  "without running it");
+  estimate->add_option("FILE", run.project, "Project file (.tpj)")->required();
+  estimate->add_option("--scenario", run.scenarios, "Scenario to estimate (repeatable; default: all)");
+  auto* estimateSeed = estimate->add_option("--seed", seed, "Random seed of the run");
+  estimate->add_option("--threads", run.threads, "Threads the run would use (default: every core)")
+      ->check(CLI::NonNegativeNumber);
+  bool reply = false;
+  estimate->add_flag("--reply", reply, "Print the engine's reply as it stands: key=value fields, for scripts");
   STArguments st;
   auto* generate = app.add_subcommand("st", "Check the sensitivity-test scheme and write the project with its "
                                             "ST scenarios generated, one per item");
@@ -112,8 +126,10 @@ int Run(int argc, char** argv) {
     Session session;
     return GenerateSTCommand(st, session.messages, session.box);
   }
-  if (*simulate) {
-    if (*seedOption) run.seed = seed;
+  if (*simulate || *estimate) {
+    if (*seedOption || *estimateSeed) run.seed = seed;
+    if (noEstimate) run.estimate = EstimateUse::Skip;
+    if (*estimate) run.estimate = reply ? EstimateUse::OnlyReply : EstimateUse::Only;
     Session session;
     return RunProject(run, session.messages, session.box);
   }

@@ -116,10 +116,20 @@ void GenomePool::layout(bool wide) {
   }
 }
 
-void GenomePool::reserve(const GenomeShape& shape, std::size_t genomes) {
+std::size_t GenomePool::GenomeBytes(const GenomeShape& shape) {
   const std::size_t blocks = static_cast<std::size_t>((shape.loci() + kLanes<16> - 1) / kLanes<16>);
   const std::size_t lethalWords = static_cast<std::size_t>((shape.lethalLoci + 63) / 64);
-  const std::size_t perGenome = (2 * kBlockWords * blocks + 2 * lethalWords + kLineWords - 1) / kLineWords * kLineWords;
+  const std::size_t words = (2 * kBlockWords * blocks + 2 * lethalWords + kLineWords - 1) / kLineWords * kLineWords;
+  return words * sizeof(std::uint64_t);
+}
+
+std::size_t GenomePool::bytes() const {
+  return words_.capacity() * sizeof(std::uint64_t) + free_.capacity() * sizeof(std::uint32_t) +
+         (draws_.capacity() + ibdLanes_.capacity()) * sizeof(std::uint64_t);
+}
+
+void GenomePool::reserve(const GenomeShape& shape, std::size_t genomes) {
+  const std::size_t perGenome = GenomeBytes(shape) / sizeof(std::uint64_t);
   if (genomes > words_.max_size() / perGenome) throw std::bad_alloc();
   words_.reserve(genomes * perGenome);
   free_.resize(std::max(free_.size(), genomes));

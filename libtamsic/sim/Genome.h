@@ -127,6 +127,10 @@ class GenomePool {
   // Alleles are numbered below this: founder alleles and the kinds drawn from frequencies.
   std::uint32_t alleleCount() const { return std::max(nextAllele_, shape_.drawnAlleles); }
   const GenomeShape& shape() const { return shape_; }
+  // The bytes of a genome of the shape while its alleles fit 16 bits.
+  static std::size_t GenomeBytes(const GenomeShape& shape);
+  // The bytes the pool holds, its arrays at their capacity.
+  std::size_t bytes() const;
 
  private:
   void layout(bool wide);

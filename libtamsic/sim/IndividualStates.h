@@ -26,6 +26,7 @@ class IndividualStates {
   // The row of a living individual's slot.
   double* at(std::uint32_t slot) { return values_.data() + static_cast<std::size_t>(slot) * count_; }
   const double* at(std::uint32_t slot) const { return values_.data() + static_cast<std::size_t>(slot) * count_; }
+  std::size_t bytes() const { return values_.capacity() * sizeof(double); }
 
  private:
   std::size_t count_ = 0;

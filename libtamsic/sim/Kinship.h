@@ -44,6 +44,7 @@ class KinshipMatrix {
   // Sets the kinship of two settled slots.
   void set(std::uint32_t a, std::uint32_t b, float kinship);
   float at(std::uint32_t a, std::uint32_t b) const { return cells_[a * size_ + b]; }
+  std::size_t bytes() const { return cells_.capacity() * sizeof(float) + arrivals_.capacity() * sizeof(Arrival); }
 
  private:
   static constexpr std::uint32_t kNoParent = UINT32_MAX;

@@ -38,6 +38,8 @@ void Apply(std::string_view code, Options& options) {
     options.seed = NumberAfter<std::uint64_t>(code, 4);
   } else if (upper.starts_with("THREADS")) {
     options.threads = NumberAfter<int>(code, 7).value_or(0);
+  } else if (upper == "ESTIMATE") {
+    options.estimate = true;
   } else if (upper == "+" || upper == "META") {
     options.runMode = upper;
   } else if (upper == "X") {

@@ -23,6 +23,7 @@ struct Options {
   std::optional<std::uint64_t> seed;  // SEED<n>
   int threads = 0;                    // THREADS<n>; 0: every core
   std::string runMode;                // "+" resumed or "META" stepwise; empty for a normal run
+  bool estimate = false;              // ESTIMATE: a short pilot answers the run's time and memory, no run
 
   bool censusOf(int iteration) const {
     return censusFile && (censusIterations <= 0 || iteration <= censusIterations);

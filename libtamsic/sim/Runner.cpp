@@ -11,6 +11,8 @@
 #include "report/ExtraFiles.h"
 #include "report/GeneticFiles.h"
 #include "report/Outcome.h"
+#include "sim/Estimate.h"
+#include "sim/MemoryNeed.h"
 #include "sim/ProjectReader.h"
 #include "sim/ReadModel.h"
 #include "sim/RunDate.h"
@@ -75,6 +77,7 @@ Finished RunOne(const ProjectDocument& project, const clsScenario& scenario, con
   const Model model = ReadModel(scenario, std::filesystem::current_path(), options);
   std::vector<LifeTable> tables;
   for (int p = 0; p < model.populations; ++p) tables.push_back(BuildLifeTable(model, p));
+  CheckMemory(model, NeedFromModel(model, tables), MeasureMemoryRoom());
   const std::string date = RunDate();
   const Crew::Part part = crew.next(model.iterations);
   const std::string& title = project.title;
@@ -176,6 +179,12 @@ std::string Run(const std::string& workFile, const std::string& bracedList, cons
     }
   } catch (const std::exception& fault) {
     problem = fault.what();
+  }
+  // The pilot is one process's own: its figures are for that process and its threads.
+  if (setup && setup->options.estimate) {
+    if (team.size() > 1) throw SimError("the estimate is made by one process alone; run it outside the MPI job");
+    if (!problem.empty()) throw SimError(problem);
+    return EstimateReply(EstimateRun(setup->project, now, setup->options, taken->seed, MeasureMemoryRoom()));
   }
   const RunPlan plan = Muster(team, problem, {taken ? taken->seed : 0, now});
   if (team.rank() != 0) {
