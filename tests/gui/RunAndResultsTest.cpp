@@ -7,6 +7,7 @@
 #include <QLineSeries>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -104,11 +105,19 @@ class RunAndResultsTest : public QObject {
       Click(dialog, "cmdRun");
     });
     bool progressShown = false;
-    WhenShown<frmRunProgress>([&](frmRunProgress&) { progressShown = true; });
+    QString estimate;
+    WhenShown<frmRunProgress>([&](frmRunProgress& dialog) {
+      progressShown = true;
+      QObject::connect(&dialog, &QDialog::accepted, [&] { estimate = dialog.findChild<QLabel*>("lblEstimate")->text(); });
+    });
     frame.findChild<QAction*>("mniRunSim")->trigger();
 
     QVERIFY(t.box.shown.empty());
     QVERIFY(progressShown);
+    // The pilot's figures stay in view for the whole run.
+    QVERIFY2(estimate.startsWith(QString::fromStdString(t.strings.text(8225))) &&
+                 estimate.endsWith(QString::fromStdString(t.strings.text(8227))),
+             qPrintable(estimate));
     QVERIFY(project->freshAnalysis());
     const std::filesystem::path results = folder.path().toStdString();
     const std::string title = project->state().document.title;

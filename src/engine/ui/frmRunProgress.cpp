@@ -8,7 +8,9 @@
 #include <QVBoxLayout>
 
 #include "app/ui/Program.h"
+#include "engine/EstimateText.h"
 #include "engine/RunList.h"
+#include "model/MemoryWords.h"
 
 namespace {
 
@@ -20,6 +22,10 @@ constexpr int kElapsed = 8217;
 constexpr int kLeft = 8218;
 constexpr int kCancel = 8219;
 constexpr int kCancelling = 8220;
+constexpr int kEstimating = 8224;
+constexpr int kExpected = 8225;
+constexpr int kExpectedPeak = 8226;
+constexpr int kExpectedEnd = 8227;
 
 QString Clock(double seconds) {
   const long whole = static_cast<long>(seconds + 0.5);
@@ -39,6 +45,9 @@ frmRunProgress::frmRunProgress(Program& program, tamsic::Engine& engine, tamsic:
   setModal(true);
   // A title and nothing else: the run ends by itself or by Cancel.
   setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+  lblEstimate_ = new QLabel(this);
+  lblEstimate_->setObjectName("lblEstimate");
+  lblEstimate_->setWordWrap(true);
   lblScenario_ = new QLabel(this);
   lblScenario_->setObjectName("lblScenario");
   prgRun_ = new QProgressBar(this);
@@ -53,6 +62,7 @@ frmRunProgress::frmRunProgress(Program& program, tamsic::Engine& engine, tamsic:
   cmdCancel_->setObjectName("cmdCancel");
   connect(buttons, &QDialogButtonBox::rejected, this, &frmRunProgress::reject);
   auto* layout = new QVBoxLayout(this);
+  layout->addWidget(lblEstimate_);
   layout->addWidget(lblScenario_);
   layout->addWidget(prgRun_);
   layout->addWidget(lblIterations_);
@@ -72,7 +82,7 @@ tamsic::basSimulation::CallResult frmRunProgress::run() {
   clock_.start();
   showProgress();
   worker_ = std::thread([this] {
-    result_ = tamsic::basSimulation::CallEngine(engine_, request_);
+    result_ = estimateThenRun();
     QMetaObject::invokeMethod(this, [this] {
       finished_ = true;
       accept();
@@ -85,13 +95,41 @@ tamsic::basSimulation::CallResult frmRunProgress::run() {
   return std::move(result_);
 }
 
+// On the worker thread. An estimate that fails (a library without it, an
+// input at fault) leaves the run to say what is wrong; a refused scenario
+// ends the call with the refusal as its reply.
+tamsic::basSimulation::CallResult frmRunProgress::estimateThenRun() {
+  const tamsic::EstimateResult asked = tamsic::AskEstimate(engine_, request_);
+  const std::optional<tamsic::RunEstimate> estimate = asked.estimate;
+  QMetaObject::invokeMethod(this, [this, estimate] { showEstimate(estimate); }, Qt::QueuedConnection);
+  estimating_ = false;
+  if (cancelRequested_) return {std::string("Error: the run was cancelled before it started"), {}};
+  if (estimate && !estimate->refused().empty()) {
+    std::string refusal = "Error: the memory available cannot hold the run: ";
+    const std::vector<std::string> lines = tamsic::Refusals(*estimate);
+    for (std::size_t n = 0; n < lines.size(); ++n) refusal += (n == 0 ? "" : "; ") + lines[n];
+    return {refusal, {}};
+  }
+  return tamsic::basSimulation::CallEngine(engine_, request_);
+}
+
+void frmRunProgress::showEstimate(const std::optional<tamsic::RunEstimate>& estimate) {
+  if (!estimate) {
+    lblEstimate_->hide();
+    return;
+  }
+  lblEstimate_->setText(text(kExpected) + Clock(estimate->seconds) + text(kExpectedPeak) +
+                        QString::fromStdString(tamsic::MemoryAmount(estimate->peakBytes)) + text(kExpectedEnd));
+}
+
 void frmRunProgress::reject() {
   if (finished_) {
     QDialog::reject();
     return;
   }
   // The dialog closes when the engine has stopped and the call returned.
-  if (engine_.cancel()) {
+  cancelRequested_ = true;
+  if (engine_.cancel() || estimating_) {
     cmdCancel_->setEnabled(false);
     cmdCancel_->setText(text(kCancelling));
   }
@@ -99,6 +137,12 @@ void frmRunProgress::reject() {
 
 void frmRunProgress::showProgress() {
   const double seconds = static_cast<double>(clock_.elapsed()) / 1000.0;
+  // The pilot's own progress would read as the run's.
+  if (estimating_) {
+    lblScenario_->setText(text(kEstimating));
+    lblTime_->setText(text(kElapsed) + Clock(seconds));
+    return;
+  }
   std::optional<tamsic::RunProgress> progress;
   try {
     if (const auto reply = engine_.progress()) progress = tamsic::ParseProgress(*reply);
