@@ -145,15 +145,16 @@ void Sweep(std::uint32_t* counts, std::size_t table, Tally& tally, std::uint32_t
 }
 
 // Whether the counts of populations first..last are best taken by a sweep
-// of the whole table, which is small for them (a sweep takes an entry in
-// about a tenth of the time a visit to a member's allele takes, measured on
-// metapopulations of small populations), or by visiting the members' alleles.
+// of the whole table, which is small for them, or by visiting the members'
+// alleles again. A sweep takes an entry in about half the instructions a
+// second visit takes (counted by callgrind on the Koalas example, whose
+// small populations hold few of the founder alleles).
 bool Sweeps(const GenomePool& g, int loci, const PopulationState* first, const PopulationState* last) {
   const std::size_t table = static_cast<std::size_t>(loci) * g.alleleCount();
   std::size_t visits = 0;
   for (const PopulationState* pop = first; pop != last; ++pop)
     visits += 2 * static_cast<std::size_t>(loci) * pop->members.size();
-  return table < 10 * visits;
+  return table < 2 * visits;
 }
 
 template <int Bits>
