@@ -18,16 +18,16 @@ struct Genomes {
 // Calls visit(row, allele) for both alleles at lanes 0 .. kLanes - 1 of
 // every member's genome words `word` (maternal) and `word` + 2 (paternal),
 // row being the table's row of the lane's locus. Genomes sit in the pool in
-// no useful order: the first pass over them asks for each a few members
-// ahead, and later passes find them in the cache.
+// no useful order: each pass asks for them a few members ahead (a large
+// population's genomes do not stay in the cache from one pass to the next).
 template <int Bits, int kLanes, class Visit>
-void VisitLanes(Genomes genomes, const std::vector<Individual>& members, bool first, int word, std::uint32_t* rows,
+void VisitLanes(Genomes genomes, const std::vector<Individual>& members, int word, std::uint32_t* rows,
                 std::size_t alleles, Visit& visit) {
   constexpr std::uint64_t mask = (1ULL << Bits) - 1;
   constexpr std::size_t ahead = 4;
   const Individual* const end = members.data() + members.size();
   for (const Individual* ind = members.data(); ind != end; ++ind) {
-    if (first && end - ind > static_cast<std::ptrdiff_t>(ahead)) __builtin_prefetch(genomes.of(ind[ahead]));
+    if (end - ind > static_cast<std::ptrdiff_t>(ahead)) __builtin_prefetch(genomes.of(ind[ahead]));
     const std::uint64_t* genome = genomes.of(*ind);
     const std::uint64_t maternal = genome[word];
     const std::uint64_t paternal = genome[word + 2];
@@ -41,12 +41,12 @@ void VisitLanes(Genomes genomes, const std::vector<Individual>& members, bool fi
 // The lanes in use of a word, as a number known when compiling, so that
 // VisitLanes spells them out.
 template <int Bits, int kLanes, class Visit>
-void VisitWord(Genomes genomes, const std::vector<Individual>& members, bool first, int word, int lanes,
-               std::uint32_t* rows, std::size_t alleles, Visit& visit) {
+void VisitWord(Genomes genomes, const std::vector<Individual>& members, int word, int lanes, std::uint32_t* rows,
+               std::size_t alleles, Visit& visit) {
   if constexpr (kLanes > 1) {
-    if (lanes < kLanes) return VisitWord<Bits, kLanes - 1>(genomes, members, first, word, lanes, rows, alleles, visit);
+    if (lanes < kLanes) return VisitWord<Bits, kLanes - 1>(genomes, members, word, lanes, rows, alleles, visit);
   }
-  VisitLanes<Bits, kLanes>(genomes, members, first, word, rows, alleles, visit);
+  VisitLanes<Bits, kLanes>(genomes, members, word, rows, alleles, visit);
 }
 
 // Calls visit(row, allele) for both alleles of each of the first `loci`
@@ -62,8 +62,8 @@ void VisitAlleles(const GenomePool& g, const std::vector<Individual>& members, i
   if (members.empty()) return;
   const Genomes genomes{g.genome(0), g.stride()};
   for (int first = 0, q = 0; first < loci; first += perWord, ++q)
-    VisitWord<Bits, perWord>(genomes, members, q == 0, 4 * (q / 2) + q % 2, loci - first, table + first * alleles,
-                             alleles, visit);
+    VisitWord<Bits, perWord>(genomes, members, 4 * (q / 2) + q % 2, loci - first, table + first * alleles, alleles,
+                             visit);
 }
 
 // Adds the members to the population's tally and their neutral alleles to
