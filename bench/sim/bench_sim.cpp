@@ -19,6 +19,36 @@
 
 namespace {
 
+// The first scenario's name and number of iterations, as the project file has them.
+struct FirstScenario {
+  std::string name;
+  int iterations = 0;
+};
+
+std::string Quoted(const std::string& line) {
+  const auto open = line.find('"');
+  return line.substr(open + 1, line.find('"', open + 1) - open - 1);
+}
+
+FirstScenario ReadFirstScenario(const std::filesystem::path& project) {
+  std::ifstream in(project);
+  FirstScenario first;
+  std::string line;
+  while (std::getline(in, line) && (first.name.empty() || first.iterations == 0)) {
+    if (first.name.empty() && line.starts_with("ScenarioName=")) first.name = Quoted(line);
+    if (first.iterations == 0 && line.starts_with("NumIter=")) first.iterations = std::stoi(Quoted(line));
+  }
+  return first;
+}
+
+std::string ProjectTitle(const std::filesystem::path& project) {
+  std::ifstream in(project);
+  std::string line;
+  while (std::getline(in, line))
+    if (line.starts_with("ProjectTitle=")) return Quoted(line);
+  return project.stem().string();
+}
+
 // Sum over years 1..Y of mean N[all] times the iterations, from the yearly data of the last block.
 double IndividualYears(const std::string& dat, const std::string& scenario, int iterations) {
   std::ifstream in(dat);
@@ -49,6 +79,7 @@ int main(int argc, char** argv) {
   const std::filesystem::path project = std::filesystem::absolute(argv[1]);
   const std::string threads = argc > 2 ? argv[2] : "0";
   const std::string name = project.stem().string();
+  const FirstScenario scenario = ReadFirstScenario(project);
   const auto folder = std::filesystem::temp_directory_path() / ("tamsic-bench-" + name);
   std::filesystem::create_directories(folder);
   std::filesystem::current_path(folder);
@@ -56,7 +87,8 @@ int main(int argc, char** argv) {
   double seconds = 0.0;
   for (int run = 0; run < runs; ++run) {
     const auto start = std::chrono::steady_clock::now();
-    const std::string reply = tamsic::sim::RunScenarios(project.string(), "{" + name + "}", "SEED1;THREADS" + threads);
+    const std::string reply =
+        tamsic::sim::RunScenarios(project.string(), "{" + scenario.name + "}", "SEED1;THREADS" + threads);
     const double took = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     if (!reply.starts_with("Message")) {
       std::cerr << reply << "\n";
@@ -64,8 +96,9 @@ int main(int argc, char** argv) {
     }
     seconds = run == 0 ? took : std::min(seconds, took);
   }
-  // The benchmark projects have one population (R1, R2) or a metapopulation block last (R3).
-  const double years = IndividualYears((folder / (name + "_" + name + ".dat")).string(), name, 500);
+  // A project of one population has its block last, one of several the metapopulation's.
+  const std::string dat = ProjectTitle(project) + "_" + scenario.name + ".dat";
+  const double years = IndividualYears((folder / dat).string(), scenario.name, scenario.iterations);
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
   std::cout << name << " threads " << threads << (runs > 1 ? ", best of " + std::to_string(runs) : std::string())

@@ -160,6 +160,7 @@ std::uint32_t GenomePool::take() {
   if (freeCount_ > 0) return free_[--freeCount_];
   const auto slot = static_cast<std::uint32_t>(words_.size() / stride_);
   words_.resize(words_.size() + stride_);
+  if (free_.size() <= slot) free_.resize(2 * free_.size() + 64);
   return slot;
 }
 

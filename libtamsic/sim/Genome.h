@@ -78,9 +78,9 @@ class GenomePool {
   Newborn addChild(std::uint32_t dam, std::uint32_t sire, Random& random);
   void release(std::uint32_t slot) { releaseIf(slot, true); }
   // Releases the slot when `dead`, without a branch on it: whether an
-  // individual dies cannot be predicted.
+  // individual dies cannot be predicted. The free list has room for every
+  // slot (take() sees to it), so this never grows it.
   void releaseIf(std::uint32_t slot, bool dead) {
-    if (freeCount_ == free_.size()) free_.resize(2 * free_.size() + 64);
     free_[freeCount_] = slot;
     freeCount_ += dead;
   }
@@ -98,6 +98,8 @@ class GenomePool {
   // The packed words of a genome; read them with Lane<32> when wide(), Lane<16> otherwise.
   // Its lethal bits follow the alleles.
   const std::uint64_t* genome(std::uint32_t slot) const { return &words_[slot * stride_]; }
+  // Words from one genome to the next, for loops over many genomes.
+  std::size_t stride() const { return stride_; }
   template <int Bits>
   static std::uint32_t Lane(const std::uint64_t* genome, int haplotype, int locus) {
     constexpr int perBlock = 128 / Bits;

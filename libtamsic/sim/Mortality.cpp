@@ -6,6 +6,7 @@
 // maximum age die; the survivors are a year older.
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "sim/Steps.h"
 
@@ -13,41 +14,47 @@ namespace tamsic::sim {
 
 namespace {
 
-struct ClassSurvival {
-  std::vector<double> mean[2];  // per mortality class; NaN when evaluated per individual
-};
-
 double Survival(double mortality, double sd, const YearConditions& year) {
   const double m = std::clamp(mortality - sd * year.survivalDeviate, 0.0, 100.0);
   return std::clamp((1.0 - m / 100.0) * year.survivalFactor, 0.0, 1.0);
 }
 
-ClassSurvival ClassRates(const PopulationModel& p, const YearConditions& year, SimContext& context) {
-  ClassSurvival rates;
+// This year's chance of surviving by sex and age below the maximum age
+// (index sex * maxAge + age), NaN where a rate is evaluated per individual:
+// one look-up an individual instead of its mortality class and a table per sex.
+std::vector<double> SurvivalByAge(const Model& m, const PopulationModel& p, const YearConditions& year,
+                                  SimContext& context) {
+  std::vector<double> byAge(2 * static_cast<std::size_t>(m.maxAge));
   for (int sex : {kFemale, kMale})
     for (std::size_t c = 0; c < p.mortality[sex].size(); ++c) {
       const Rate& mean = p.mortality[sex][c];
       const Rate& sd = p.mortalitySD[sex][c];
-      rates.mean[sex].push_back(mean.perIndividual() || sd.perIndividual()
-                                    ? std::nan("")
-                                    : Survival(mean.value(context), sd.value(context), year));
+      const double s = mean.perIndividual() || sd.perIndividual()
+                           ? std::nan("")
+                           : Survival(mean.value(context), sd.value(context), year);
+      for (int age = 0; age < m.maxAge; ++age)
+        if (static_cast<std::size_t>(m.mortalityClass(sex, age)) == c)
+          byAge[static_cast<std::size_t>(sex * m.maxAge + age)] = s;
     }
-  return rates;
+  return byAge;
 }
 
 void SurvivePopulation(const Model& m, const PopulationModel& p, PopulationState& pop, World& world,
                        SimContext& context) {
-  const ClassSurvival rates = ClassRates(p, pop.year, context);
+  const std::vector<double> survival = SurvivalByAge(m, p, pop.year, context);
   const double depression =
       m.inbreedingDepression ? m.lethalEquivalents * (1.0 - m.percentLethal / 100.0) : 0.0;
+  const int maxAge = m.maxAge;
+  Individual* const members = pop.members.data();
+  const std::size_t n = pop.members.size();
   std::size_t kept = 0;
-  for (std::size_t i = 0; i < pop.members.size(); ++i) {
-    Individual& ind = pop.members[i];
-    bool lives = ind.age < m.maxAge;
+  for (std::size_t i = 0; i < n; ++i) {
+    Individual& ind = members[i];
+    bool lives = ind.age < maxAge;
     if (lives) {
-      const auto c = static_cast<std::size_t>(m.mortalityClass(ind.sex, ind.age));
-      double s = rates.mean[ind.sex][c];
+      double s = survival[static_cast<std::size_t>(ind.sex * maxAge + ind.age)];
       if (std::isnan(s)) {
+        const auto c = static_cast<std::size_t>(m.mortalityClass(ind.sex, ind.age));
         context.setIndividual(&ind);
         s = Survival(p.mortality[ind.sex][c].value(context), p.mortalitySD[ind.sex][c].value(context), pop.year);
       }
@@ -59,7 +66,7 @@ void SurvivePopulation(const Model& m, const PopulationModel& p, PopulationState
     // first, then age the copy: a copy read right after a narrow write to
     // the same record would wait for that write.
     world.genomes.releaseIf(ind.genome, !lives);
-    Individual& survivor = pop.members[kept];
+    Individual& survivor = members[kept];
     if (&survivor != &ind) survivor = ind;
     ++survivor.age;
     kept += lives;

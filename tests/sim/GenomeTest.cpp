@@ -1,10 +1,14 @@
 // The genome pool packs 16-bit alleles until the founders outgrow them, then
-// repacks itself with 32-bit alleles; identity by descent must survive that.
+// repacks itself with 32-bit alleles; identity by descent must survive that,
+// and the census must count the alleles the same way in both.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
+#include <vector>
 
 #include "SimTestSupport.h"
+#include "sim/AlleleTally.h"
 #include "sim/Genome.h"
 
 namespace tamsic::sim {
@@ -60,6 +64,55 @@ TEST(SimGenome, WideningKeepsEveryAlleleAndItsIdentity) {
   std::set<std::uint32_t> maternal;
   for (int l = 0; l < shape.ibdLoci; ++l) maternal.insert(pool.allele(late.slot, 0, l));
   EXPECT_EQ(maternal, (std::set<std::uint32_t>{79998u, 79999u}));
+}
+
+// The census counts alleles into a table a word of loci at a time, summing
+// the metapopulation's counts alongside, and takes the sums by sweeping the
+// table or by visiting the alleles again; sorting each locus' alleles is the
+// plain way to the same sums. Loci that fill no whole word, a first locus
+// left out, small and large populations, narrow and wide pools.
+TEST(SimGenome, CensusCountsAgreeWithSortedAlleles) {
+  for (bool wide : {false, true}) {
+    GenomeShape shape;
+    shape.neutralLoci = 13;
+    GenomePool pool;
+    pool.reset(shape, 5);
+    Random random(5, 1);
+    std::uint8_t lethals = 0;
+    std::vector<std::uint32_t> founders;
+    for (int k = 0; k < 30; ++k) founders.push_back(pool.addFounder(lethals));
+    // Founder alleles beyond 16 bits, none of them carried by anyone: a sparse table.
+    for (int k = 0; wide && k < 33000; ++k) pool.release(pool.addFounder(lethals));
+    ASSERT_EQ(pool.wide(), wide);
+    std::vector<PopulationState> pops(3);
+    for (std::size_t p = 0; p < pops.size(); ++p)
+      for (std::size_t i = 0; i < std::vector<std::size_t>{400, 60, 3}[p]; ++i) {
+        Individual ind;
+        ind.genome = pool.addChild(founders[random.below(30)], founders[random.below(30)], random).slot;
+        pops[p].members.push_back(ind);
+      }
+    for (int first : {0, 1}) {
+      const TalliedLoci loci{first, shape.neutralLoci};
+      const std::size_t table = static_cast<std::size_t>(loci.end) * pool.alleleCount();
+      std::vector<std::uint32_t> counts(2 * table), room;
+      Tally meta;
+      for (const PopulationState& pop : pops) {
+        Tally byTable, bySorting;
+        CountByTable(pool, loci, pop, counts.data(), byTable, counts.data() + table, &meta);
+        CountBySorting(pool, loci, &pop, &pop + 1, room, bySorting);
+        EXPECT_EQ(byTable.squares, bySorting.squares) << wide << first << pop.members.size();
+        EXPECT_EQ(byTable.distinct, bySorting.distinct) << wide << first << pop.members.size();
+        EXPECT_EQ(byTable.individuals, static_cast<long>(pop.members.size()));
+      }
+      Settle(pool, loci, pops.data(), pops.data() + pops.size(), counts.data() + table, meta, nullptr);
+      Tally all;
+      CountBySorting(pool, loci, pops.data(), pops.data() + pops.size(), room, all);
+      EXPECT_EQ(meta.squares, all.squares) << wide << first;
+      EXPECT_EQ(meta.distinct, all.distinct) << wide << first;
+      EXPECT_EQ(meta.individuals, 463);
+      EXPECT_TRUE(std::all_of(counts.begin(), counts.end(), [](std::uint32_t c) { return c == 0; }));
+    }
+  }
 }
 
 }  // namespace
