@@ -43,8 +43,8 @@ void Answer(TamsicVariant* result, Reply&& reply) noexcept {
 }
 
 // The processes this one shares its run with, from tamsicTeamJoin to
-// tamsicTeamLeave. A team runs one study: its processes meet once, at the
-// start of the run.
+// tamsicTeamLeave. A team of several runs one study: its processes meet
+// once, at the start of the run.
 struct Membership {
   std::unique_ptr<tamsic::sim::Team> team;
   bool ran = false;
@@ -57,7 +57,8 @@ Membership& Joined() {
 
 std::string RunWithTeam(const std::string& path, const std::string& scenarios, const std::string& options) {
   Membership& joined = Joined();
-  if (!joined.team) return tamsic::sim::RunScenarios(path, scenarios, options);
+  // A process alone may make many calls (an estimate, then its run).
+  if (!joined.team || joined.team->size() == 1) return tamsic::sim::RunScenarios(path, scenarios, options);
   if (joined.ran) return "Error: the processes of an MPI job run one study together, and this one has run";
   joined.ran = true;
   return tamsic::sim::RunScenarios(path, scenarios, options, *joined.team);
