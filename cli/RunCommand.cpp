@@ -72,7 +72,8 @@ bool DrawProgress(const std::string& reply, std::chrono::steady_clock::time_poin
   const long left = done > 0 ? static_cast<long>(elapsed * (total - done) / done) : 0;
   std::cerr << "\r[" << std::string(static_cast<std::size_t>(filled), '#')
             << std::string(static_cast<std::size_t>(width - filled), '.') << "] " << done << "/" << total
-            << " iterations, " << left / 60 << ":" << (left % 60 < 10 ? "0" : "") << left % 60 << " left " << std::flush;
+            << " iterations, " << left / 60 << ":" << (left % 60 < 10 ? "0" : "") << left % 60 << " left "
+            << std::flush;
   return true;
 }
 

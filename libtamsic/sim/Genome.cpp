@@ -40,7 +40,8 @@ constexpr std::array<LaneArray<Bits>, (1u << kLanes<Bits>)> MakeMasks() {
   std::array<LaneArray<Bits>, (1u << kLanes<Bits>)> masks{};
   for (std::uint32_t bits = 0; bits < masks.size(); ++bits)
     for (int k = 0; k < kLanes<Bits>; ++k)
-      masks[bits][static_cast<std::size_t>(k)] = ((bits >> k) & 1u) ? static_cast<typename LaneArray<Bits>::value_type>(~0u) : 0;
+      masks[bits][static_cast<std::size_t>(k)] =
+          ((bits >> k) & 1u) ? static_cast<typename LaneArray<Bits>::value_type>(~0u) : 0;
   return masks;
 }
 
@@ -236,8 +237,10 @@ Newborn GenomePool::child(std::uint32_t dam, std::uint32_t sire, Random& random)
       const auto p = Load<Lanes>(&kMasks<Bits>[fromSire & group]);
       fromDam >>= lanes;
       fromSire >>= lanes;
-      const Lanes maternal = (Load<Lanes>(mother + 2 * b * block) & ~m) | (Load<Lanes>(mother + (2 * b + 1) * block) & m);
-      const Lanes paternal = (Load<Lanes>(father + 2 * b * block) & ~p) | (Load<Lanes>(father + (2 * b + 1) * block) & p);
+      const Lanes maternal =
+          (Load<Lanes>(mother + 2 * b * block) & ~m) | (Load<Lanes>(mother + (2 * b + 1) * block) & m);
+      const Lanes paternal =
+          (Load<Lanes>(father + 2 * b * block) & ~p) | (Load<Lanes>(father + (2 * b + 1) * block) & p);
       Store(out + 2 * b * block, maternal);
       Store(out + (2 * b + 1) * block, paternal);
       same += (maternal == paternal) & Load<Same>(&ibdLanes_[b * block]);

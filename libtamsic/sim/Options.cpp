@@ -29,7 +29,8 @@ std::optional<T> NumberAfter(std::string_view code, std::size_t prefix) {
 
 // A code letter, alone or followed by its value ("T80", "Y 5"), but not a word that only begins with it.
 bool IsCode(const std::string& upper, char letter) {
-  return !upper.empty() && upper[0] == letter && (upper.size() == 1 || !std::isalpha(static_cast<unsigned char>(upper[1])));
+  return !upper.empty() && upper[0] == letter &&
+         (upper.size() == 1 || !std::isalpha(static_cast<unsigned char>(upper[1])));
 }
 
 void Apply(std::string_view code, Options& options) {

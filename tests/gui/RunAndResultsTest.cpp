@@ -108,7 +108,8 @@ class RunAndResultsTest : public QObject {
     QString estimate;
     WhenShown<frmRunProgress>([&](frmRunProgress& dialog) {
       progressShown = true;
-      QObject::connect(&dialog, &QDialog::accepted, [&] { estimate = dialog.findChild<QLabel*>("lblEstimate")->text(); });
+      QObject::connect(&dialog, &QDialog::accepted,
+                       [&] { estimate = dialog.findChild<QLabel*>("lblEstimate")->text(); });
     });
     frame.findChild<QAction*>("mniRunSim")->trigger();
 
@@ -148,7 +149,8 @@ class RunAndResultsTest : public QObject {
       QVERIFY(!line->pointsVisible());  // the special option "S" is off in the example
       QCOMPARE(line->count(), 31);
       const QString dat = QString::fromStdString(
-          tamsic::ScenarioOutputFile(results, title, scenario.toStdString(), tamsic::ScenarioOutput::YearlyData).string());
+          tamsic::ScenarioOutputFile(results, title, scenario.toStdString(), tamsic::ScenarioOutput::YearlyData)
+              .string());
       for (int year : {0, 17, 30}) {
         const QStringList fields = DatFields(dat, scenario, 3, 30, year);
         QCOMPARE(fields.value(0).toInt(), year);
@@ -161,7 +163,8 @@ class RunAndResultsTest : public QObject {
     auto* other = output->findChild<QComboBox*>("cboOtherOutput");
     other->setCurrentIndex(1);
     emit other->activated(1);
-    const std::string line = SummaryLineOf(ReadFile(QString::fromStdString(tamsic::SummaryFile(results, title).string())).toStdString(), "Managed");
+    const std::string line = SummaryLineOf(
+        ReadFile(QString::fromStdString(tamsic::SummaryFile(results, title).string())).toStdString(), "Managed");
     QVERIFY(!line.empty());
     QString csvLine = QString::fromStdString(line).replace(';', ',');
     QVERIFY2(output->otherOutputCsv().contains(csvLine + "\r\n"), qPrintable(output->otherOutputCsv()));

@@ -39,7 +39,11 @@ QString Clock(double seconds) {
 
 frmRunProgress::frmRunProgress(Program& program, tamsic::Engine& engine, tamsic::basSimulation::RunRequest request,
                                std::vector<Scenario> scenarios, QWidget* parent)
-    : QDialog(parent), program_(program), engine_(engine), request_(std::move(request)), scenarios_(std::move(scenarios)) {
+    : QDialog(parent),
+      program_(program),
+      engine_(engine),
+      request_(std::move(request)),
+      scenarios_(std::move(scenarios)) {
   setObjectName("frmRunProgress");
   setWindowTitle(text(kTitle));
   setModal(true);
