@@ -3,8 +3,6 @@
 // metapopulation when there are several) and every year 0..NumYears, the
 // census of that year.
 #include <cstdint>
-#include <string>
-#include <string_view>
 #include <vector>
 
 #include "sim/Individual.h"
@@ -102,9 +100,9 @@ class IterationRecord {
 
   Journal journal;  // filled only when an extra file was asked for
 
-  // A record as bytes, for the processes of a team (RecordBytes.h).
-  friend std::string Pack(const IterationRecord& record);
-  friend void Unpack(std::string_view bytes, IterationRecord& record);
+  // Its fields in order, written or read as bytes for the processes of a team (RecordBytes.h).
+  template <class Stream, class Record>
+  friend void RecordFields(Stream& stream, Record& record);
 
  private:
   std::size_t userWidth() const { return static_cast<std::size_t>(userVariables_); }

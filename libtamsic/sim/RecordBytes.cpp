@@ -69,25 +69,26 @@ void JournalFields(Stream& s, Journal& j) {
 
 }  // namespace
 
+// As the journal's: one order for packing and unpacking.
+template <class Stream, class Record>
+void RecordFields(Stream& s, Record& record) {
+  s.value(record.blocks_);
+  s.value(record.years_);
+  s.value(record.userVariables_);
+  s.values(record.cells_);
+  s.values(record.userValues_);
+  JournalFields(s, record.journal);
+}
+
 std::string Pack(const IterationRecord& record) {
   Writer out;
-  out.value(record.blocks_);
-  out.value(record.years_);
-  out.value(record.userVariables_);
-  out.values(record.cells_);
-  out.values(record.userValues_);
-  JournalFields(out, record.journal);
+  RecordFields(out, record);
   return out.take();
 }
 
 void Unpack(std::string_view bytes, IterationRecord& record) {
   Reader in(bytes);
-  in.value(record.blocks_);
-  in.value(record.years_);
-  in.value(record.userVariables_);
-  in.values(record.cells_);
-  in.values(record.userValues_);
-  JournalFields(in, record.journal);
+  RecordFields(in, record);
   if (!in.done()) throw SimError("a record from another process is longer than one");
 }
 
