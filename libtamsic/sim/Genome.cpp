@@ -85,6 +85,17 @@ constexpr std::uint64_t Repeat(std::uint64_t lane) {
   return word;
 }
 
+// GCC builds a small struct of narrow fields on the stack and reads it back
+// whole, which waits on the narrow writes; built as one word it stays in a register.
+Newborn Born(std::uint32_t slot, LethalsPassed lethals, float inbreeding) {
+  const std::uint64_t first =
+      slot | static_cast<std::uint64_t>(lethals.count) << 32 | static_cast<std::uint64_t>(lethals.viable) << 40;
+  Newborn born;
+  std::memcpy(&born, &first, sizeof first);
+  born.inbreeding = inbreeding;
+  return born;
+}
+
 }  // namespace
 
 void GenomePool::reset(const GenomeShape& shape, std::uint64_t seed) {
@@ -254,16 +265,16 @@ Newborn GenomePool::child(std::uint32_t dam, std::uint32_t sire, Random& random)
   int identical = 0;
   for (int k = 0; k < lanes; ++k) identical -= same[k];
   const float inbreeding = inbreedingOf_[static_cast<std::size_t>(identical)];
-  if (shape_.lethalLoci == 0) return {slot, inbreeding, 0, true};
-  const LethalsPassed lethals = passLethals<Bits>(mother, father, out, draws, drawCount);
-  return {slot, inbreeding, lethals.count, lethals.viable};
+  LethalsPassed lethals{0, true};
+  if (shape_.lethalLoci > 0) lethals = passLethals<Bits>(mother, father, out, draws, drawCount);
+  return Born(slot, lethals, inbreeding);
 }
 
 // The lethal bits of a newborn: each haplotype's bit at a lethal locus comes
 // from the parent's haplotype whose allele passed on there, chosen by the
 // same random bit. A newborn with the same lethal allele twice dies.
 template <int Bits>
-GenomePool::LethalsPassed GenomePool::passLethals(const std::uint64_t* mother, const std::uint64_t* father,
+LethalsPassed GenomePool::passLethals(const std::uint64_t* mother, const std::uint64_t* father,
                                                   std::uint64_t* out, const std::uint64_t* draws,
                                                   std::size_t drawCount) const {
   bool viable = true;

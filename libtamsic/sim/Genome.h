@@ -57,11 +57,19 @@ struct GenomeShape {
   int loci() const { return lethalFirst() + lethalLoci; }
 };
 
+// Laid out to come back in two registers: the slot with the lethals, and
+// the inbreeding.
 struct Newborn {
   std::uint32_t slot;
-  float inbreeding;
   std::uint8_t lethals;
   bool viable;  // false when homozygous for a lethal
+  float inbreeding;
+};
+
+// The recessive lethals a newborn carries, and whether it has one twice.
+struct LethalsPassed {
+  std::uint8_t count;
+  bool viable;
 };
 
 class GenomePool {
@@ -143,10 +151,6 @@ class GenomePool {
   Newborn child(std::uint32_t dam, std::uint32_t sire, Random& random);
   template <int Bits>
   int sharedAlleles(std::uint32_t a, std::uint32_t b) const;
-  struct LethalsPassed {
-    std::uint8_t count;
-    bool viable;
-  };
   template <int Bits>
   LethalsPassed passLethals(const std::uint64_t* mother, const std::uint64_t* father, std::uint64_t* out,
                             const std::uint64_t* draws, std::size_t drawCount) const;
