@@ -64,21 +64,24 @@ void Candidates(const Model& m, const PopulationModel& p, PopulationState& pop, 
   pool.resize(pop.members.size() + 1);
   std::size_t breeders = 0, inBreedingPool = 0;
   LocalStream random(world.random);
+  // By sex, so that the sex picks them without a branch.
+  const double chances[2] = {breeding, inPool};
+  const bool perIndividual[2] = {each, eachMale};
   for (std::uint32_t i = 0; i < pop.members.size(); ++i) {
     const Individual& ind = pop.members[i];
     if (ind.age < m.firstBreeding[ind.sex]) continue;
-    const bool male = ind.sex == kMale;
-    double chance = male ? inPool : breeding;
-    if (male ? eachMale : each) {
+    const std::size_t male = ind.sex;
+    double chance = chances[male];
+    if (perIndividual[male]) {
       context.setIndividual(&ind);
       chance = random.lend([&] { return male ? Percent(p.malesInPool.value(context)) : chanceOf(); });
     }
     if (!m.sexual()) pool[inBreedingPool++] = i;
-    const bool drawn = random.chance(chance);
+    const std::size_t drawn = random.chance(chance);
     pool[inBreedingPool] = i;
     mothers[breeders] = i;
-    inBreedingPool += male && drawn;
-    breeders += !male && drawn;
+    inBreedingPool += male & drawn;
+    breeders += (male ^ 1) & drawn;
   }
   mothers.resize(breeders);
   pool.resize(inBreedingPool);
