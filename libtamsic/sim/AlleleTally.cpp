@@ -81,15 +81,31 @@ void VisitAlleles(const GenomePool& g, const std::vector<Individual>& members, i
                              visit);
 }
 
+// Adds the members to the tallies. The sums are taken in copies, which stay
+// in registers where the tallies themselves would be written back at every
+// step, in the members' order, so that they come out the same.
+void AddMembers(const std::vector<Individual>& members, Tally& ownTally, Tally* metaTally) {
+  Tally own = ownTally;
+  if (!metaTally) {
+    for (const Individual& ind : members) own.add(ind);
+    ownTally = own;
+    return;
+  }
+  Tally meta = *metaTally;
+  for (const Individual& ind : members) {
+    own.add(ind);
+    meta.add(ind);
+  }
+  ownTally = own;
+  *metaTally = meta;
+}
+
 // Adds the members to the population's tally and their neutral alleles to
 // its table and, when `meta` is given, to the metapopulation's.
 template <int Bits, bool kMeta, class Count>
 void CountAlleles(const GenomePool& g, int loci, const std::vector<Individual>& members, Count* own,
                   Tally& ownTally, Count* meta, Tally* metaTally) {
-  for (const Individual& ind : members) {
-    ownTally.add(ind);
-    if (metaTally) metaTally->add(ind);
-  }
+  AddMembers(members, ownTally, metaTally);
   const std::ptrdiff_t toMeta = kMeta ? meta - own : 0;
   VisitAlleles<Bits>(g, members, loci, own, g.alleleCount(), [toMeta](Count* row, std::uint64_t a) {
     ++row[a];
