@@ -62,7 +62,8 @@ void SurvivePopulation(const Model& m, const PopulationModel& p, PopulationState
                           pop.year);
         });
       }
-      if (ind.age == 0 && depression > 0.0) s *= std::exp(-depression * ind.inbreeding);
+      // exp(-0) is 1: the outbred young are spared the call.
+      if (ind.age == 0 && depression > 0.0 && ind.inbreeding != 0.0f) s *= std::exp(-depression * ind.inbreeding);
       lives = random.chance(s);
     }
     // Everyone is copied to the end of the survivors and only the survivors
