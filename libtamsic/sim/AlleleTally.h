@@ -49,14 +49,22 @@ struct TalliedLoci {
 // individuals themselves; each locus' alleles are then sorted instead.
 inline constexpr std::size_t kLargestTable = std::size_t{1} << 24;
 
+// A census of at most this many individuals counts in 16 bits: no count
+// then passes 32767, so a sweep can square eight counts at a time in signed
+// lanes. Counts half as wide keep twice the table in the nearest cache.
+inline constexpr std::size_t kMostForNarrowCounts = 16383;
+
 // A population's members into its tally and its table of counts, and into
 // the metapopulation's when `meta` is given (its members into `metaTally`).
-void CountByTable(const GenomePool& g, const TalliedLoci& loci, const PopulationState& pop, std::uint32_t* own,
-                  Tally& tally, std::uint32_t* meta, Tally* metaTally);
+// Count is std::uint16_t or std::uint32_t.
+template <class Count>
+void CountByTable(const GenomePool& g, const TalliedLoci& loci, const PopulationState& pop, Count* own,
+                  Tally& tally, Count* meta, Tally* metaTally);
 // Takes the counts of populations first..last into the tally and leaves the
 // table zero; a sweep of the table also adds them to `into` when given.
+template <class Count>
 void Settle(const GenomePool& g, const TalliedLoci& loci, const PopulationState* first, const PopulationState* last,
-            std::uint32_t* counts, Tally& tally, std::uint32_t* into);
+            Count* counts, Tally& tally, Count* into);
 // The allele statistics of populations first..last without a table, using
 // `alleles` as room to sort in (members are not added to the tally).
 void CountBySorting(const GenomePool& g, const TalliedLoci& loci, const PopulationState* first,

@@ -56,32 +56,32 @@ void Candidates(const Model& m, const PopulationModel& p, PopulationState& pop, 
   };
   const double breeding = each ? 0.0 : chanceOf();
   const double inPool = eachMale ? 0.0 : Percent(p.malesInPool.value(context));
-  // Written unconditionally and kept by advancing the end: whether a draw
-  // succeeds cannot be predicted, and a mispredicted branch costs more.
-  mothers.resize(pop.members.size());
-  pool.resize(pop.members.size());
+  // Both lists are written for every adult and only the one of its sex and
+  // draw advances: neither the sex of the next adult nor whether its draw
+  // succeeds can be predicted, and a mispredicted branch costs more. The
+  // extra entry takes the write past the last member.
+  mothers.resize(pop.members.size() + 1);
+  pool.resize(pop.members.size() + 1);
   std::size_t breeders = 0, inBreedingPool = 0;
+  LocalStream random(world.random);
+  // By sex, so that the sex picks them without a branch.
+  const double chances[2] = {breeding, inPool};
+  const bool perIndividual[2] = {each, eachMale};
   for (std::uint32_t i = 0; i < pop.members.size(); ++i) {
     const Individual& ind = pop.members[i];
     if (ind.age < m.firstBreeding[ind.sex]) continue;
-    if (ind.sex == kMale) {
-      double joins = inPool;
-      if (eachMale) {
-        context.setIndividual(&ind);
-        joins = Percent(p.malesInPool.value(context));
-      }
-      pool[inBreedingPool] = i;
-      inBreedingPool += world.random.chance(joins);
-      continue;
+    const std::size_t male = ind.sex;
+    double chance = chances[male];
+    if (perIndividual[male]) {
+      context.setIndividual(&ind);
+      chance = random.lend([&] { return male ? Percent(p.malesInPool.value(context)) : chanceOf(); });
     }
     if (!m.sexual()) pool[inBreedingPool++] = i;
-    double chance = breeding;
-    if (each) {
-      context.setIndividual(&ind);
-      chance = chanceOf();
-    }
+    const std::size_t drawn = random.chance(chance);
+    pool[inBreedingPool] = i;
     mothers[breeders] = i;
-    breeders += world.random.chance(chance);
+    inBreedingPool += male & drawn;
+    breeders += (male ^ 1) & drawn;
   }
   mothers.resize(breeders);
   pool.resize(inBreedingPool);
@@ -104,6 +104,7 @@ void Pair(const Model& m, PopulationState& pop, World& world, std::vector<std::u
   const bool longTerm = m.mating == Mating::LongTermMonogamous || m.mating == Mating::LongTermPolygamous;
   const bool oneFemale = m.mating == Mating::Monogamous || m.mating == Mating::LongTermMonogamous;
   std::size_t available = pool.size();  // pool[0 .. available) are still free for one-female systems
+  LocalStream random(world.random);
   auto take = [&](std::size_t k) {
     const std::uint32_t male = pool[k];
     if (oneFemale) std::swap(pool[k], pool[--available]);
@@ -120,7 +121,7 @@ void Pair(const Model& m, PopulationState& pop, World& world, std::vector<std::u
   for (std::size_t f = 0; f < mothers.size(); ++f) {
     if (sires[f] != kNone) continue;
     if (available == 0) break;
-    sires[f] = take(world.random.below(static_cast<std::uint32_t>(available)));
+    sires[f] = take(random.below(static_cast<std::uint32_t>(available)));
   }
 }
 

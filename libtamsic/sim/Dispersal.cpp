@@ -66,19 +66,22 @@ void Disperse(const Model& m, World& world, SimContext& context) {
       survival = SurvivalOfMove(m, context);
     }
     std::size_t kept = 0;
+    LocalStream random(world.random);
     for (std::size_t i = 0; i < pop.members.size(); ++i) {
       const Individual& ind = pop.members[i];
       const bool eligible = m.dispersing[ind.sex] && ind.age >= m.dispersalYoung && ind.age <= m.dispersalOld;
       if (eligible && each) {
         context.setIndividual(&ind);
-        Destinations(m, world, p, context, cumulative);
-        survival = SurvivalOfMove(m, context);
+        survival = random.lend([&] {
+          Destinations(m, world, p, context, cumulative);
+          return SurvivalOfMove(m, context);
+        });
       }
       if (eligible) {
-        const double u = world.random.uniform();
+        const double u = random.uniform();
         const auto to = std::upper_bound(cumulative.begin(), cumulative.end(), u) - cumulative.begin();
         if (to < m.populations) {
-          if (world.random.chance(survival)) arrivals[static_cast<std::size_t>(to)].push_back(ind);
+          if (random.chance(survival)) arrivals[static_cast<std::size_t>(to)].push_back(ind);
           else world.genomes.release(ind.genome);
           continue;
         }

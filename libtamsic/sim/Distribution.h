@@ -16,9 +16,11 @@ class Discrete {
   int draw(Random& random) const {
     if (cumulative_.size() <= 1) return first_;
     const double u = random.uniform() * cumulative_.back();
-    std::size_t k = 0;
-    while (k + 1 < cumulative_.size() && u >= cumulative_[k]) ++k;
-    return first_ + static_cast<int>(k);
+    // The table rises, so the values passed are the first k: counted
+    // without a branch, since which value a draw gives cannot be predicted.
+    int k = 0;
+    for (std::size_t j = 0; j + 1 < cumulative_.size(); ++j) k += u >= cumulative_[j];
+    return first_ + k;
   }
   double mean() const { return mean_; }
 

@@ -24,7 +24,8 @@ std::size_t HeldBytes(const World& world) {
   bytes += Bytes(world.scratchA) + Bytes(world.scratchB) + Bytes(world.scratchC) + Bytes(world.moving);
   bytes += Bytes(world.arrivals);
   for (const auto& arriving : world.arrivals) bytes += Bytes(arriving);
-  bytes += Bytes(world.destinations) + Bytes(world.nextStates) + Bytes(world.stateColumn) + Bytes(world.alleleCounts);
+  bytes += Bytes(world.destinations) + Bytes(world.nextStates) + Bytes(world.stateColumn);
+  bytes += Bytes(world.alleleCounts) + Bytes(world.narrowCounts);
   return bytes;
 }
 

@@ -85,6 +85,17 @@ constexpr std::uint64_t Repeat(std::uint64_t lane) {
   return word;
 }
 
+// GCC builds a small struct of narrow fields on the stack and reads it back
+// whole, which waits on the narrow writes; built as one word it stays in a register.
+Newborn Born(std::uint32_t slot, LethalsPassed lethals, float inbreeding) {
+  const std::uint64_t first =
+      slot | static_cast<std::uint64_t>(lethals.count) << 32 | static_cast<std::uint64_t>(lethals.viable) << 40;
+  Newborn born;
+  std::memcpy(&born, &first, sizeof first);
+  born.inbreeding = inbreeding;
+  return born;
+}
+
 }  // namespace
 
 void GenomePool::reset(const GenomeShape& shape, std::uint64_t seed) {
@@ -94,6 +105,11 @@ void GenomePool::reset(const GenomeShape& shape, std::uint64_t seed) {
   const double share = std::clamp(shape.lethalShare, 0.0, 1.0);
   lethalThreshold_ = share >= 1.0 ? ~0ULL : static_cast<std::uint64_t>(share * 0x1.0p64);
   lethalWords_ = static_cast<std::size_t>((shape.lethalLoci + 63) / 64);
+  // A newborn's inbreeding by its number of identical identity loci, looked
+  // up: a division for every birth would hold up the next one.
+  inbreedingOf_.resize(static_cast<std::size_t>(shape.ibdLoci) + 1);
+  for (int k = 0; k <= shape.ibdLoci; ++k)
+    inbreedingOf_[static_cast<std::size_t>(k)] = static_cast<float>(k) / static_cast<float>(shape.ibdLoci);
   layout(false);
   words_.clear();
   freeCount_ = 0;
@@ -126,7 +142,7 @@ std::size_t GenomePool::GenomeBytes(const GenomeShape& shape) {
 
 std::size_t GenomePool::bytes() const {
   return words_.capacity() * sizeof(std::uint64_t) + free_.capacity() * sizeof(std::uint32_t) +
-         (draws_.capacity() + ibdLanes_.capacity()) * sizeof(std::uint64_t);
+         (draws_.capacity() + ibdLanes_.capacity()) * sizeof(std::uint64_t) + inbreedingOf_.capacity() * sizeof(float);
 }
 
 void GenomePool::reserve(const GenomeShape& shape, std::size_t genomes) {
@@ -248,17 +264,20 @@ Newborn GenomePool::child(std::uint32_t dam, std::uint32_t sire, Random& random)
   }
   int identical = 0;
   for (int k = 0; k < lanes; ++k) identical -= same[k];
-  Newborn born{slot, static_cast<float>(identical) / static_cast<float>(shape_.ibdLoci), 0, true};
-  if (shape_.lethalLoci > 0) passLethals<Bits>(mother, father, out, draws, drawCount, born);
-  return born;
+  const float inbreeding = inbreedingOf_[static_cast<std::size_t>(identical)];
+  LethalsPassed lethals{0, true};
+  if (shape_.lethalLoci > 0) lethals = passLethals<Bits>(mother, father, out, draws, drawCount);
+  return Born(slot, lethals, inbreeding);
 }
 
 // The lethal bits of a newborn: each haplotype's bit at a lethal locus comes
 // from the parent's haplotype whose allele passed on there, chosen by the
 // same random bit. A newborn with the same lethal allele twice dies.
 template <int Bits>
-void GenomePool::passLethals(const std::uint64_t* mother, const std::uint64_t* father, std::uint64_t* out,
-                         const std::uint64_t* draws, std::size_t drawCount, Newborn& born) const {
+LethalsPassed GenomePool::passLethals(const std::uint64_t* mother, const std::uint64_t* father,
+                                                  std::uint64_t* out, const std::uint64_t* draws,
+                                                  std::size_t drawCount) const {
+  bool viable = true;
   int lethals = 0;
   for (std::size_t w = 0; w < lethalWords_; ++w) {
     const std::size_t first = static_cast<std::size_t>(shape_.lethalFirst()) + 64 * w;  // locus of bit 0
@@ -273,10 +292,10 @@ void GenomePool::passLethals(const std::uint64_t* mother, const std::uint64_t* f
     lethals += Popcount(maternal) + Popcount(paternal);
     for (std::uint64_t both = maternal & paternal; both != 0; both &= both - 1) {
       const int locus = static_cast<int>(first) + CountTrailingZeros(both);
-      if (Lane<Bits>(out, 0, locus) == Lane<Bits>(out, 1, locus)) born.viable = false;
+      if (Lane<Bits>(out, 0, locus) == Lane<Bits>(out, 1, locus)) viable = false;
     }
   }
-  born.lethals = static_cast<std::uint8_t>(std::min(lethals, 255));
+  return {static_cast<std::uint8_t>(std::min(lethals, 255)), viable};
 }
 
 double GenomePool::kinship(std::uint32_t a, std::uint32_t b) const {

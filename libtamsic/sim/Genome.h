@@ -57,11 +57,19 @@ struct GenomeShape {
   int loci() const { return lethalFirst() + lethalLoci; }
 };
 
+// Laid out to come back in two registers: the slot with the lethals, and
+// the inbreeding.
 struct Newborn {
   std::uint32_t slot;
-  float inbreeding;
   std::uint8_t lethals;
   bool viable;  // false when homozygous for a lethal
+  float inbreeding;
+};
+
+// The recessive lethals a newborn carries, and whether it has one twice.
+struct LethalsPassed {
+  std::uint8_t count;
+  bool viable;
 };
 
 class GenomePool {
@@ -144,8 +152,8 @@ class GenomePool {
   template <int Bits>
   int sharedAlleles(std::uint32_t a, std::uint32_t b) const;
   template <int Bits>
-  void passLethals(const std::uint64_t* mother, const std::uint64_t* father, std::uint64_t* out,
-               const std::uint64_t* draws, std::size_t drawCount, Newborn& born) const;
+  LethalsPassed passLethals(const std::uint64_t* mother, const std::uint64_t* father, std::uint64_t* out,
+                            const std::uint64_t* draws, std::size_t drawCount) const;
 
   GenomeShape shape_;
   bool wide_ = false;
@@ -159,6 +167,7 @@ class GenomePool {
   std::vector<std::uint64_t> draws_;  // a birth's random bits, per parent, for the lethal loci
   std::vector<std::uint64_t, CacheAligned<std::uint64_t>> words_;
   std::vector<std::uint64_t> ibdLanes_;  // per haplotype block: its identity-locus lanes all ones (two words)
+  std::vector<float> inbreedingOf_;  // by the number of identity loci found identical
   std::vector<std::uint32_t> free_;  // slots of the dead in free_[0 .. freeCount_)
   std::size_t freeCount_ = 0;
 };

@@ -48,6 +48,7 @@ void SurvivePopulation(const Model& m, const PopulationModel& p, PopulationState
   Individual* const members = pop.members.data();
   const std::size_t n = pop.members.size();
   std::size_t kept = 0;
+  LocalStream random(world.random);
   for (std::size_t i = 0; i < n; ++i) {
     Individual& ind = members[i];
     bool lives = ind.age < maxAge;
@@ -56,10 +57,14 @@ void SurvivePopulation(const Model& m, const PopulationModel& p, PopulationState
       if (std::isnan(s)) {
         const auto c = static_cast<std::size_t>(m.mortalityClass(ind.sex, ind.age));
         context.setIndividual(&ind);
-        s = Survival(p.mortality[ind.sex][c].value(context), p.mortalitySD[ind.sex][c].value(context), pop.year);
+        s = random.lend([&] {
+          return Survival(p.mortality[ind.sex][c].value(context), p.mortalitySD[ind.sex][c].value(context),
+                          pop.year);
+        });
       }
-      if (ind.age == 0 && depression > 0.0) s *= std::exp(-depression * ind.inbreeding);
-      lives = world.random.chance(s);
+      // exp(-0) is 1: the outbred young are spared the call.
+      if (ind.age == 0 && depression > 0.0 && ind.inbreeding != 0.0f) s *= std::exp(-depression * ind.inbreeding);
+      lives = random.chance(s);
     }
     // Everyone is copied to the end of the survivors and only the survivors
     // advance that end, since whether one lives cannot be predicted. Copy

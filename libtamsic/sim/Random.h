@@ -49,4 +49,28 @@ class Random {
   bool hasSpare_ = false;
 };
 
+// A hot loop's copy of the iteration's stream. The stream reached through
+// the world is loaded and stored at every draw, since the compiler cannot
+// tell it apart from the records the loop writes; the copy stays in
+// registers. It goes home when it goes out of scope, and for the length of
+// a call to anything else that may draw (lend).
+class LocalStream : public Random {
+ public:
+  explicit LocalStream(Random& home) : Random(home), home_(home) {}
+  LocalStream(const LocalStream&) = delete;
+  LocalStream& operator=(const LocalStream&) = delete;
+  ~LocalStream() { home_ = *this; }
+
+  template <class Draws>
+  auto lend(Draws&& draws) {
+    home_ = *this;
+    auto result = draws();
+    static_cast<Random&>(*this) = home_;
+    return result;
+  }
+
+ private:
+  Random& home_;
+};
+
 }  // namespace tamsic::sim

@@ -23,6 +23,25 @@ void ClearIfExtinct(const Model& m, World& world, PopulationState& pop) {
   pop.counts = Counts{};
 }
 
+// The census' tables of counts: a population's own and the metapopulation's.
+template <class Count>
+struct Tables {
+  Count* own = nullptr;
+  Count* meta = nullptr;
+};
+
+template <class Count>
+Tables<Count> MakeTables(const Model& m, std::vector<Count>& room, std::size_t table) {
+  room.resize(2 * table);
+  return {room.data(), m.populations > 1 ? room.data() + table : nullptr};
+}
+
+std::size_t Members(const World& world) {
+  std::size_t members = 0;
+  for (const PopulationState& pop : world.pops) members += pop.members.size();
+  return members;
+}
+
 }  // namespace
 
 void TakeCensus(const Model& m, World& world, IterationRecord& record) {
@@ -31,9 +50,9 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
   const TalliedLoci loci{m.genetics.talliedFirst, m.genetics.talliedFirst + m.genetics.talliedLoci};
   const std::size_t table = static_cast<std::size_t>(loci.end) * g.alleleCount();
   const bool sorting = table > kLargestTable;
-  if (!sorting) world.alleleCounts.resize(2 * table);
-  std::uint32_t* own = sorting ? nullptr : world.alleleCounts.data();
-  std::uint32_t* meta = own && m.populations > 1 ? own + table : nullptr;
+  const bool narrow = !sorting && Members(world) <= kMostForNarrowCounts;
+  const auto wide = sorting || narrow ? Tables<std::uint32_t>{} : MakeTables(m, world.alleleCounts, table);
+  const auto small = narrow ? MakeTables(m, world.narrowCounts, table) : Tables<std::uint16_t>{};
   const int tallied = m.options.excludeLastPopulation ? m.populations - 1 : m.populations;
   Tally metaTally;
   int females = 0, males = 0;
@@ -41,6 +60,7 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
     ClearIfExtinct(m, world, pop);
     const bool inMeta = m.populations > 1 && p < tallied;
+    Tally* const intoMeta = inMeta ? &metaTally : nullptr;
     Tally tally;
     if (sorting) {
       for (const Individual& ind : pop.members) {
@@ -48,8 +68,10 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
         if (inMeta) metaTally.add(ind);
       }
       CountBySorting(g, loci, &pop, &pop + 1, world.alleleCounts, tally);
+    } else if (narrow) {
+      CountByTable(g, loci, pop, small.own, tally, inMeta ? small.meta : nullptr, intoMeta);
     } else {
-      CountByTable(g, loci, pop, own, tally, inMeta ? meta : nullptr, inMeta ? &metaTally : nullptr);
+      CountByTable(g, loci, pop, wide.own, tally, inMeta ? wide.meta : nullptr, intoMeta);
     }
     Census& census = record.at(p, world.year);
     tally.store(loci.count(), census);
@@ -61,7 +83,8 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
   if (m.populations == 1) return;
   const PopulationState* pops = world.pops.data();
   if (sorting) CountBySorting(g, loci, pops, pops + tallied, world.alleleCounts, metaTally);
-  else Settle(g, loci, pops, pops + tallied, meta, metaTally, nullptr);
+  else if (narrow) Settle(g, loci, pops, pops + tallied, small.meta, metaTally, static_cast<std::uint16_t*>(nullptr));
+  else Settle(g, loci, pops, pops + tallied, wide.meta, metaTally, static_cast<std::uint32_t*>(nullptr));
   Census& census = record.at(m.populations, world.year);
   metaTally.store(loci.count(), census);
   census.extinct = Extinct(m, census.n, females, males);

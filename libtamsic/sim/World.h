@@ -73,7 +73,8 @@ struct World {
   std::vector<double> destinations;              // cumulative chances of a disperser's recipients
   std::vector<double> nextStates;                // state values being worked out
   std::vector<double> stateColumn;               // ... and one variable of them for a batch
-  std::vector<std::uint32_t> alleleCounts;
+  std::vector<std::uint32_t> alleleCounts;       // the census' counts of alleles, or its room to sort them
+  std::vector<std::uint16_t> narrowCounts;       // ... or its counts when 16 bits hold them
 
   // The iteration's list of everyone created, when the option "N" asks for it.
   std::vector<CreatedEntry>* created = nullptr;

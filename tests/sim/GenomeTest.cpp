@@ -70,7 +70,8 @@ TEST(SimGenome, WideningKeepsEveryAlleleAndItsIdentity) {
 // the metapopulation's counts alongside, and takes the sums by sweeping the
 // table or by visiting the alleles again; sorting each locus' alleles is the
 // plain way to the same sums. Loci that fill no whole word, a first locus
-// left out, small and large populations, narrow and wide pools.
+// left out, small and large populations, narrow and wide pools, counts of 16
+// and of 32 bits.
 TEST(SimGenome, CensusCountsAgreeWithSortedAlleles) {
   for (bool wide : {false, true}) {
     GenomeShape shape;
@@ -91,27 +92,34 @@ TEST(SimGenome, CensusCountsAgreeWithSortedAlleles) {
         ind.genome = pool.addChild(founders[random.below(30)], founders[random.below(30)], random).slot;
         pops[p].members.push_back(ind);
       }
-    for (int first : {0, 1}) {
-      const TalliedLoci loci{first, shape.neutralLoci};
-      const std::size_t table = static_cast<std::size_t>(loci.end) * pool.alleleCount();
-      std::vector<std::uint32_t> counts(2 * table), room;
-      Tally meta;
-      for (const PopulationState& pop : pops) {
-        Tally byTable, bySorting;
-        CountByTable(pool, loci, pop, counts.data(), byTable, counts.data() + table, &meta);
-        CountBySorting(pool, loci, &pop, &pop + 1, room, bySorting);
-        EXPECT_EQ(byTable.squares, bySorting.squares) << wide << first << pop.members.size();
-        EXPECT_EQ(byTable.distinct, bySorting.distinct) << wide << first << pop.members.size();
-        EXPECT_EQ(byTable.individuals, static_cast<long>(pop.members.size()));
+    const auto census = [&](auto count) {
+      using Count = decltype(count);
+      for (int first : {0, 1}) {
+        const TalliedLoci loci{first, shape.neutralLoci};
+        const std::size_t table = static_cast<std::size_t>(loci.end) * pool.alleleCount();
+        std::vector<Count> counts(2 * table);
+        std::vector<std::uint32_t> room;
+        Tally meta;
+        for (const PopulationState& pop : pops) {
+          Tally byTable, bySorting;
+          CountByTable(pool, loci, pop, counts.data(), byTable, counts.data() + table, &meta);
+          CountBySorting(pool, loci, &pop, &pop + 1, room, bySorting);
+          EXPECT_EQ(byTable.squares, bySorting.squares) << wide << first << pop.members.size() << sizeof(Count);
+          EXPECT_EQ(byTable.distinct, bySorting.distinct) << wide << first << pop.members.size() << sizeof(Count);
+          EXPECT_EQ(byTable.individuals, static_cast<long>(pop.members.size()));
+        }
+        Settle(pool, loci, pops.data(), pops.data() + pops.size(), counts.data() + table, meta,
+               static_cast<Count*>(nullptr));
+        Tally all;
+        CountBySorting(pool, loci, pops.data(), pops.data() + pops.size(), room, all);
+        EXPECT_EQ(meta.squares, all.squares) << wide << first << sizeof(Count);
+        EXPECT_EQ(meta.distinct, all.distinct) << wide << first << sizeof(Count);
+        EXPECT_EQ(meta.individuals, 463);
+        EXPECT_TRUE(std::all_of(counts.begin(), counts.end(), [](Count c) { return c == 0; }));
       }
-      Settle(pool, loci, pops.data(), pops.data() + pops.size(), counts.data() + table, meta, nullptr);
-      Tally all;
-      CountBySorting(pool, loci, pops.data(), pops.data() + pops.size(), room, all);
-      EXPECT_EQ(meta.squares, all.squares) << wide << first;
-      EXPECT_EQ(meta.distinct, all.distinct) << wide << first;
-      EXPECT_EQ(meta.individuals, 463);
-      EXPECT_TRUE(std::all_of(counts.begin(), counts.end(), [](std::uint32_t c) { return c == 0; }));
-    }
+    };
+    census(std::uint16_t{});
+    census(std::uint32_t{});
   }
 }
 
