@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 #include <new>
 
@@ -88,6 +90,9 @@ constexpr std::uint64_t Repeat(std::uint64_t lane) {
 // GCC builds a small struct of narrow fields on the stack and reads it back
 // whole, which waits on the narrow writes; built as one word it stays in a register.
 Newborn Born(std::uint32_t slot, LethalsPassed lethals, float inbreeding) {
+  static_assert(offsetof(Newborn, lethals) == 4 && offsetof(Newborn, viable) == 5 &&
+                offsetof(Newborn, inbreeding) == 8);
+  if constexpr (std::endian::native != std::endian::little) return {slot, lethals.count, lethals.viable, inbreeding};
   const std::uint64_t first =
       slot | static_cast<std::uint64_t>(lethals.count) << 32 | static_cast<std::uint64_t>(lethals.viable) << 40;
   Newborn born;
@@ -274,9 +279,8 @@ Newborn GenomePool::child(std::uint32_t dam, std::uint32_t sire, Random& random)
 // from the parent's haplotype whose allele passed on there, chosen by the
 // same random bit. A newborn with the same lethal allele twice dies.
 template <int Bits>
-LethalsPassed GenomePool::passLethals(const std::uint64_t* mother, const std::uint64_t* father,
-                                                  std::uint64_t* out, const std::uint64_t* draws,
-                                                  std::size_t drawCount) const {
+LethalsPassed GenomePool::passLethals(const std::uint64_t* mother, const std::uint64_t* father, std::uint64_t* out,
+                                      const std::uint64_t* draws, std::size_t drawCount) const {
   bool viable = true;
   int lethals = 0;
   for (std::size_t w = 0; w < lethalWords_; ++w) {
