@@ -4,9 +4,7 @@
 set -u
 cli="$1"
 examples="$2"
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failures=0
+. "$(dirname "$0")/harness.sh"
 
 # expect_failure DESCRIPTION MESSAGE COMMAND...: exit 1 with MESSAGE on stderr
 # (EXPECTED_CODE=2 for a usage error).
@@ -46,5 +44,4 @@ grep -q "ST items: 3" "$work/info" || { echo "FAIL: info lists the ST items"; fa
   sed 's/^ProjectPath=.*//;s/^ReportLocation=.*//' "$work/b.tpj" > "$work/b" &&
   cmp -s "$work/a" "$work/b" || { echo "FAIL: resave is not stable"; failures=$((failures + 1)); }
 
-[ "$failures" -eq 0 ] && echo "cli bad input: all passed"
-exit "$failures"
+finish "cli bad input"

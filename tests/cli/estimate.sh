@@ -7,9 +7,7 @@
 set -u
 cli="$1"
 examples="$2"
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failures=0
+. "$(dirname "$0")/harness.sh"
 fail() { echo "FAIL: $1"; cat "$work/out" "$work/err"; failures=$((failures + 1)); }
 
 sed 's/^NumIter="500"/NumIter="6"/; s/^NumYears="100"/NumYears="10"/' "$examples/Koalas.tpj" > "$work/K.tpj"
@@ -38,5 +36,4 @@ refused='needs about .* GB at its peak, more than the .* this machine has availa
 [ $? -eq 1 ] && grep -q "^Error: scenario \"Baseline\": $refused" "$work/err" || fail "refused by the run"
 [ -z "$(ls "$work/big" | grep -v '\.tpj$\|\.resume$')" ] || fail "a refused run wrote results: $(ls "$work/big")"
 
-[ "$failures" -eq 0 ] && echo "cli estimate: all passed"
-exit "$failures"
+finish "cli estimate"

@@ -5,9 +5,7 @@
 set -u
 build="$1"
 examples="$2"
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failures=0
+. "$(dirname "$0")/harness.sh"
 fail() { echo "FAIL: $1"; failures=$((failures + 1)); }
 
 cmake --install "$build" --prefix "$work/usr" > /dev/null || fail "install"
@@ -29,5 +27,4 @@ type=$(sed -n 's/^MimeType=\(.*\);$/\1/p' "$desktop")
 grep -q "mime-type type=\"$type\"" "$mime" && grep -q 'glob pattern="\*.tpj"' "$mime" || fail "the file type of .tpj"
 [ -s "$work/usr/share/icons/hicolor/scalable/apps/tamsic.svg" ] || fail "the icon"
 
-[ "$failures" -eq 0 ] && echo "install: all passed"
-exit "$failures"
+finish "install"

@@ -8,9 +8,7 @@ set -u
 cli="$1"
 examples="$2"
 mpirun="$3"
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failures=0
+. "$(dirname "$0")/harness.sh"
 fail() { echo "FAIL: $1"; failures=$((failures + 1)); }
 # A fixed date in the output reports, so that whole files compare.
 export SOURCE_DATE_EPOCH=1700000000 OMPI_ALLOW_RUN_AS_ROOT=1 OMPI_ALLOW_RUN_AS_ROOT_CONFIRM=1
@@ -98,5 +96,4 @@ code=$?
 
 [ "$(ls "$temp" 2>/dev/null | wc -l)" -eq "$before" ] || fail "work files left in $temp"
 
-[ "$failures" -eq 0 ] && echo "cli mpi: all passed"
-exit "$failures"
+finish "cli mpi"

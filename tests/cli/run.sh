@@ -4,9 +4,7 @@
 set -u
 cli="$1"
 examples="$2"
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failures=0
+. "$(dirname "$0")/harness.sh"
 fail() { echo "FAIL: $1"; cat "$work/err"; failures=$((failures + 1)); }
 temp="$(dirname "$cli")/Temp"
 before=$(ls "$temp" 2>/dev/null | wc -l)
@@ -58,5 +56,4 @@ code=$?
 # Failed and cancelled runs too leave no work copy of the project behind.
 [ "$(ls "$temp" 2>/dev/null | wc -l)" -eq "$before" ] || fail "work files left in $temp"
 
-[ "$failures" -eq 0 ] && echo "cli run: all passed"
-exit "$failures"
+finish "cli run"

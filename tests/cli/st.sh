@@ -6,9 +6,7 @@
 set -u
 cli="$1"
 examples="$2"
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failures=0
+. "$(dirname "$0")/harness.sh"
 fail() { echo "FAIL: $1"; cat "$work/err"; failures=$((failures + 1)); }
 
 sed 's/^NumIter="500"/NumIter="4"/; s/^NumYears="100"/NumYears="5"/' "$examples/Koalas.tpj" > "$work/K.tpj"
@@ -45,5 +43,4 @@ cmp -s "$work/bad.tpj" "$work/bad-before.tpj" && [ ! -e "$work/bad.tpj.bak" ] ||
 "$cli" st "$work/none.tpj" > /dev/null 2> "$work/err"
 [ $? -eq 1 ] && grep -q 'does not exist' "$work/err" || fail "a missing project"
 
-[ "$failures" -eq 0 ] && echo "cli st: all passed"
-exit "$failures"
+finish "cli st"
