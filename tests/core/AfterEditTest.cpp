@@ -20,44 +20,27 @@ const std::string& Cell(const clsScenario& s, Field field, std::size_t row, std:
   return s.GetGrid(field).at(row, col);
 }
 
-struct CountCase {
-  const char* box;
-  const char* value;
-  const char* grid;
-  std::size_t rows;
-  std::size_t cols;
-};
-
-class CountChange : public testing::TestWithParam<CountCase> {};
-
 // The new scenario: 1 population, 1 catastrophe, ages 2 (F) and 3 (M), max age 13, 1 brood, 1 progeny.
-TEST_P(CountChange, ReshapesTheGridsThatDependOnIt) {
-  const CountCase c = GetParam();
+TEST(AfterEdit, ACountReshapesTheGridsThatDependOnIt) {
   const clsScenario before = NewScenarioDefaults();
-  clsScenario after = before;
-  after.SetText(*FieldByMember(c.box), c.value);
-  AfterEdit(before, after);
-  const Grid& grid = after.GetGrid(*FieldByMember(c.grid));
-  EXPECT_EQ(grid.rows(), c.rows);
-  EXPECT_EQ(grid.cols(), c.cols);
+  for (auto [box, value, grid, rows, cols] :
+       {std::tuple{"txtNumPop", "3", "gridDispRates", 4u, 4u}, {"txtNumPop", "", "gridRepRates1", 1u, 3u},
+        {"txtNumCatast", "3", "gridCatastropheLabels", 3u, 2u}, {"txtNumCatast", "0", "gridCatastrophes2", 2u, 1u},
+        {"txtAgeReproF", "4", "gridMortFemales", 2u, 11u}, {"txtAgeReproM", "1", "gridSupplM", 2u, 2u},
+        {"txtMaxAgeRepro", "20", "gridInitPopMale", 2u, 21u}, {"txtMaxProgeny", "5", "gridRepRates3", 7u, 2u},
+        {"txtMaxLitters", "3", "gridRepRates4", 4u, 2u}, {"txtNumPopStateVars", "3", "gridPopLabels", 2u, 5u},
+        {"txtNumGlobalVars", "0", "gridGlobalVars", 2u, 2u},
+        {"txtNumIndividualStateParams", "2", "gridIndividualStateParams", 5u, 3u}}) {
+    clsScenario after = before;
+    after.SetText(*FieldByMember(box), value);
+    AfterEdit(before, after);
+    const Grid& reshaped = after.GetGrid(*FieldByMember(grid));
+    EXPECT_EQ(reshaped.rows(), rows) << box << " = " << value << ": " << grid;
+    EXPECT_EQ(reshaped.cols(), cols) << box << " = " << value << ": " << grid;
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Counts, CountChange,
-    testing::Values(CountCase{"txtNumPop", "3", "gridDispRates", 4, 4},
-                    CountCase{"txtNumPop", "", "gridRepRates1", 1, 3},
-                    CountCase{"txtNumCatast", "3", "gridCatastropheLabels", 3, 2},
-                    CountCase{"txtNumCatast", "0", "gridCatastrophes2", 2, 1},
-                    CountCase{"txtAgeReproF", "4", "gridMortFemales", 2, 11},
-                    CountCase{"txtAgeReproM", "1", "gridSupplM", 2, 2},
-                    CountCase{"txtMaxAgeRepro", "20", "gridInitPopMale", 2, 21},
-                    CountCase{"txtMaxProgeny", "5", "gridRepRates3", 7, 2},
-                    CountCase{"txtMaxLitters", "3", "gridRepRates4", 4, 2},
-                    CountCase{"txtNumPopStateVars", "3", "gridPopLabels", 2, 5},
-                    CountCase{"txtNumGlobalVars", "0", "gridGlobalVars", 2, 2},
-                    CountCase{"txtNumIndividualStateParams", "2", "gridIndividualStateParams", 5, 3}));
-
-TEST(AfterEdit, KeepsValuesThatStillFitAndHeadsGridsWithTheLabels) {
+TEST(AfterEdit, KeepsValuesHeadsGridsWithLabelsAndLeavesRestoredCountsAlone) {
   const clsScenario before = NewScenarioDefaults();
   clsScenario after = before;
   after.SetText(F("txtNumPop"), "2");
@@ -70,18 +53,16 @@ TEST(AfterEdit, KeepsValuesThatStillFitAndHeadsGridsWithTheLabels) {
   AfterEdit(named, after);
   EXPECT_EQ(Cell(after, F("gridMortFemales"), 2, 0), "North");
   EXPECT_EQ(Cell(after, F("gridCarryingCap1"), 0, 2), "North");
-}
 
-TEST(AfterEdit, RestoringCountsDoesNotReshape) {
   // A count that says 3 over grids of one population is left as the file holds it until edited.
-  clsScenario s = NewScenarioDefaults();
-  s.SetText(F("txtNumPop"), "3");
-  clsScenario after = s;
-  AfterEdit(s, after);
+  clsScenario restored = before;
+  restored.SetText(F("txtNumPop"), "3");
+  after = restored;
+  AfterEdit(restored, after);
   EXPECT_EQ(after.GetGrid(F("gridMortFemales")).rows(), 2u);
 }
 
-TEST(AfterEdit, WritesTheBreedingFunctionOfCheckedPopulations) {
+TEST(AfterEdit, FillsTheBreedingFunctionOfCheckedPopulationsAndTheLastRowOfDistributions) {
   clsScenario before = NewScenarioDefaults();
   clsScenario after = before;
   for (auto [row, text] : {std::pair{1, "1"}, {2, "50"}, {3, "20"}, {4, ""}, {5, "2"}})
@@ -95,17 +76,14 @@ TEST(AfterEdit, WritesTheBreedingFunctionOfCheckedPopulations) {
   AfterEdit(before, after);
   EXPECT_EQ(Cell(after, F("gridRepRates1"), 1, 1), "=(50-((50-20)*((N/K)^2)))*(N/(0+N))")
       << "unchecking leaves the function in place";
-}
 
-TEST(AfterEdit, FillsTheLastRowOfExactDistributions) {
-  clsScenario before = NewScenarioDefaults();
-  before.SetText(F("txtMaxProgeny"), "3");
-  clsScenario after = before;
-  AfterEdit(NewScenarioDefaults(), after);
+  // The last row of an exact distribution takes what the others leave of 100.
   before = after;
-  SetCell(after, F("gridRepRates3"), 1, 1, "10");
-  SetCell(after, F("gridRepRates3"), 2, 1, "45.5");
-  SetCell(after, F("gridRepRates3"), 3, 1, "");
+  after.SetText(F("txtMaxProgeny"), "3");
+  AfterEdit(before, after);
+  before = after;
+  for (auto [row, text] : {std::pair{1, "10"}, {2, "45.5"}, {3, ""}})
+    SetCell(after, F("gridRepRates3"), static_cast<std::size_t>(row), 1, text);
   AfterEdit(before, after);
   EXPECT_EQ(Cell(after, F("gridRepRates3"), 4, 1), "44.50");
   EXPECT_EQ(Cell(after, F("gridRepRates4"), 1, 1), "100.00");
@@ -155,7 +133,7 @@ TEST(AfterEdit, WarnsOnlyWhenARateIsAFunction) {
             "demographic rate.");
 }
 
-TEST(StateVariablePresets, NewVariablesTakeTheHighestNumbers) {
+TEST(StateVariablePresets, NewVariablesTakeTheHighestNumbersUpToTen) {
   clsScenario s = NewScenarioDefaults();
   s.SetText(F("txtNumIndividualStateParams"), "2");
   RelayoutScenario(s);
@@ -168,14 +146,11 @@ TEST(StateVariablePresets, NewVariablesTakeTheHighestNumbers) {
   EXPECT_EQ(grid.at(1, 3), "DiseaseState");
   EXPECT_EQ(grid.at(4, 3), "=IS3") << "a variable's transition names its own number";
   EXPECT_EQ(grid.at(4, 6), "=IS6");
-}
 
-TEST(StateVariablePresets, RefusesToPassTen) {
-  clsScenario s = NewScenarioDefaults();
   s.SetText(F("txtNumIndividualStateParams"), "7");
   RelayoutScenario(s);
   const clsScenario unchanged = s;
-  EXPECT_NE(AddStateVariables(s, StatePreset::Outbreak, EnglishMessages()), std::nullopt);
+  EXPECT_NE(AddStateVariables(s, StatePreset::Outbreak, EnglishMessages()), std::nullopt) << "7 + 4 passes ten";
   EXPECT_EQ(s, unchanged);
   EXPECT_EQ(AddStateVariables(s, StatePreset::Spatial, EnglishMessages()), std::nullopt)
       << "7 + 3 is exactly the maximum";

@@ -15,7 +15,7 @@ LayoutCounts Populations(int count) {
   return counts;
 }
 
-TEST(InputHelpers, FillAndScaleTheDispersalMatrix) {
+TEST(InputHelpers, FillScaleExportAndImportTheDispersalMatrix) {
   Grid rates = LayoutGrid(F("gridDispRates"), Populations(3));
   EXPECT_FALSE(FillDispersal(rates, "lots"));
   EXPECT_EQ(rates.at(1, 2), "");
@@ -33,14 +33,11 @@ TEST(InputHelpers, FillAndScaleTheDispersalMatrix) {
   EXPECT_EQ(rates.at(1, 3), "=D*(1-N/K)*2");
   EXPECT_EQ(rates.at(2, 1), "");
   EXPECT_FALSE(ApplyDispersalMultiplier(rates, ""));
-}
 
-TEST(InputHelpers, RateMatrixFileReadsWhatItWrites) {
-  Grid rates = LayoutGrid(F("gridDispRates"), Populations(3));
-  FillDispersal(rates, "1");
-  rates.at(2, 3) = "=D/2";
+  // The rate matrix file reads what it writes.
+  rates.at(2, 1) = "1.00";
   const std::string file = ExportRateMatrix(rates);
-  EXPECT_EQ(file, ";1.00;1.00\r\n1.00;;=D/2\r\n1.00;1.00;\r\n");
+  EXPECT_EQ(file, ";2.50;=D*(1-N/K)*2\r\n1.00;;5.00\r\n5.00;5.00;\r\n");
 
   const EnglishMessages english;
   Grid other = LayoutGrid(F("gridDispRates"), Populations(3));
@@ -60,22 +57,7 @@ TEST(InputHelpers, RateMatrixFileReadsWhatItWrites) {
   EXPECT_EQ(other, before) << "a file that does not fit changes nothing";
 }
 
-TEST(InputHelpers, CopyFemaleMortalityWherePlacesExist) {
-  const LayoutCounts counts = Populations(2);
-  clsScenario scenario;
-  Grid females = LayoutGrid(F("gridMortFemales"), counts);
-  for (std::size_t r = 1; r < females.rows(); ++r)
-    for (std::size_t c = 1; c < females.cols(); ++c) females.at(r, c) = std::to_string(r * 10 + c);
-  scenario.SetGrid(F("gridMortFemales"), females);
-  scenario.SetGrid(F("gridMortMales"), LayoutGrid(F("gridMortMales"), counts));
-  CopyFemaleMortality(scenario);
-  const Grid& males = scenario.GetGrid(F("gridMortMales"));
-  EXPECT_EQ(males.at(2, 6), "26");
-  EXPECT_EQ(males.at(2, 7), "") << "males have a column females lack";
-  EXPECT_EQ(males.at(0, 1), "Mortality From Age 0 to 1");
-}
-
-TEST(InputHelpers, CopyInputValuesToLaterPopulations) {
+TEST(InputHelpers, CopyValuesToLaterPopulationsAndFemaleMortalityToMales) {
   const LayoutCounts counts = Populations(3);
   clsScenario scenario;
   for (Field grid : PopulationGrids()) scenario.SetGrid(grid, LayoutGrid(grid, counts));
@@ -98,8 +80,18 @@ TEST(InputHelpers, CopyInputValuesToLaterPopulations) {
   const clsScenario before = scenario;
   CopyInputValues(scenario, 3, PopulationGrids());
   EXPECT_EQ(scenario, before) << "the last population has nobody after it";
-  EXPECT_EQ(PopulationGridsOfPage(6), (std::vector<Field>{F("gridMortFemales"), F("gridMortMales")}));
   EXPECT_TRUE(PopulationGridsOfPage(3).empty()) << "the dispersal matrix is never copied";
+
+  // Female mortality goes to the males wherever they have the place.
+  Grid females = scenario.GetGrid(F("gridMortFemales"));
+  for (std::size_t r = 1; r < females.rows(); ++r)
+    for (std::size_t c = 1; c < females.cols(); ++c) females.at(r, c) = std::to_string(r * 10 + c);
+  scenario.SetGrid(F("gridMortFemales"), females);
+  CopyFemaleMortality(scenario);
+  const Grid& males = scenario.GetGrid(F("gridMortMales"));
+  EXPECT_EQ(males.at(2, 6), "26");
+  EXPECT_EQ(males.at(2, 7), "") << "males have a column females lack";
+  EXPECT_EQ(males.at(0, 1), "Mortality From Age 0 to 1");
 }
 
 }  // namespace

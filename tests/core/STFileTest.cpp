@@ -25,17 +25,7 @@ class STFileTest : public ::testing::Test {
   test::MessageRecorder recorder;
 };
 
-TEST_F(STFileTest, EmptySchemeIsOneKey) {
-  const std::string text = Written(STScheme());
-  EXPECT_EQ(text, "\r\n[ST Data]\r\nST.NumItems=\"0\"" + std::string(35, ' ') +
-                      "# Number of items in the ST Scheme\r\n");
-  const STScheme back = Read(text);
-  EXPECT_EQ(back.NumItems, 0);
-  EXPECT_TRUE(back.Items.empty());
-  EXPECT_TRUE(recorder.box.shown.empty());
-}
-
-TEST_F(STFileTest, ItemsAreWrittenInOrderAndReadBack) {
+TEST_F(STFileTest, SchemesAreWrittenInOrderAndReadBack) {
   STScheme scheme;
   scheme.NumItems = 2;
   scheme.Items = {{3, -2, "K low, EV high", {"K_Pop1", "EV", "SexRatio"}, {"500", "=B*2", "50"}},
@@ -57,29 +47,12 @@ TEST_F(STFileTest, ItemsAreWrittenInOrderAndReadBack) {
   EXPECT_EQ(back.Items[0], scheme.Items[0]);
   EXPECT_EQ(back.Items[1], scheme.Items[1]);
   EXPECT_EQ(back.Items[2], STItem());
-}
 
-TEST_F(STFileTest, CountListThatDisagreesLoadsNoItem) {
-  const STScheme back = Read("[ST Data]\r\nST.NumItems=3\r\nST.ItemsVarsList=\"3,1\"\r\n");
-  EXPECT_EQ(back.NumItems, 3);
-  EXPECT_EQ(back.Items, std::vector<STItem>(4));
-  ASSERT_EQ(recorder.box.shown.size(), 1u);
-  EXPECT_EQ(recorder.box.shown[0].text, "Error.");
-}
-
-TEST_F(STFileTest, BadNumberEndsTheSectionButKeepsEarlierItems) {
-  const STScheme back = Read(
-      "[ST Data]\r\nST.NumItems=2.9\r\nST.ItemsVarsList=1,1\r\n"
-      "ST.ItemAnalysisIndex_0=2.5\r\nST.ItemLabel_0=a\r\nST.ItemScenarioIndex_0=4.9x\r\n"
-      "ST.ItemVar_0_0=v\r\nST.ItemVal_0_0=1\r\n"
-      "ST.ItemAnalysisIndex_1=many\r\n");
-  EXPECT_EQ(back.NumItems, 2);
-  EXPECT_EQ(back.Items[0].AnalysisIndex, 2) << "halves round to the even neighbour";
-  EXPECT_EQ(back.Items[0].ScenarioIndex, 4);
-  EXPECT_EQ(back.Items[0].Vars, std::vector<std::string>{"v"});
-  EXPECT_EQ(back.Items[1], STItem());
-  ASSERT_EQ(recorder.box.shown.size(), 1u);
-  EXPECT_NE(recorder.box.shown[0].text.find("ST.ItemAnalysisIndex_1"), std::string::npos);
+  const std::string empty = Written(STScheme());
+  EXPECT_EQ(empty, "\r\n[ST Data]\r\nST.NumItems=\"0\"" + std::string(35, ' ') +
+                       "# Number of items in the ST Scheme\r\n");
+  EXPECT_EQ(Read(empty), STScheme()) << "an empty scheme is one key";
+  EXPECT_TRUE(recorder.box.shown.empty());
 }
 
 TEST_F(STFileTest, OldFilesCountMortalityAgesFromOne) {
@@ -98,9 +71,30 @@ TEST_F(STFileTest, OldFilesCountMortalityAgesFromOne) {
   EXPECT_EQ(Read(text, 9.6).Items[0].Vars[0], "EVMaleMort_Pop1_Age1");
 }
 
-TEST_F(STFileTest, MissingSectionIsReportedAndTheLoadGoesOn) {
-  const STScheme back = Read("[Other]\r\nx=1\r\n");
-  EXPECT_EQ(back.NumItems, 0);
+// Each damage is reported once and the load goes on with what could be read.
+TEST_F(STFileTest, DamagedSectionsAreReported) {
+  STScheme back = Read("[ST Data]\r\nST.NumItems=3\r\nST.ItemsVarsList=\"3,1\"\r\n");
+  EXPECT_EQ(back.NumItems, 3);
+  EXPECT_EQ(back.Items, std::vector<STItem>(4)) << "a count list that disagrees loads no item";
+  ASSERT_EQ(recorder.box.shown.size(), 1u);
+  EXPECT_EQ(recorder.box.shown[0].text, "Error.");
+
+  recorder.box.shown.clear();
+  back = Read(
+      "[ST Data]\r\nST.NumItems=2.9\r\nST.ItemsVarsList=1,1\r\n"
+      "ST.ItemAnalysisIndex_0=2.5\r\nST.ItemLabel_0=a\r\nST.ItemScenarioIndex_0=4.9x\r\n"
+      "ST.ItemVar_0_0=v\r\nST.ItemVal_0_0=1\r\n"
+      "ST.ItemAnalysisIndex_1=many\r\n");
+  EXPECT_EQ(back.NumItems, 2);
+  EXPECT_EQ(back.Items[0].AnalysisIndex, 2) << "halves round to the even neighbour";
+  EXPECT_EQ(back.Items[0].ScenarioIndex, 4);
+  EXPECT_EQ(back.Items[0].Vars, std::vector<std::string>{"v"});
+  EXPECT_EQ(back.Items[1], STItem()) << "a bad number ends the section but keeps earlier items";
+  ASSERT_EQ(recorder.box.shown.size(), 1u);
+  EXPECT_NE(recorder.box.shown[0].text.find("ST.ItemAnalysisIndex_1"), std::string::npos);
+
+  recorder.box.shown.clear();
+  EXPECT_EQ(Read("[Other]\r\nx=1\r\n").NumItems, 0);
   ASSERT_EQ(recorder.box.shown.size(), 1u);
   EXPECT_EQ(recorder.box.shown[0].text, "Unable to find section ST Data");
 }

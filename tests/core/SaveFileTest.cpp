@@ -18,7 +18,7 @@ class SaveFileTest : public ::testing::Test {
   test::MessageRecorder recorder;
 };
 
-TEST_F(SaveFileTest, ValuesAreCutAtHashAndLoseOnlyMatchingQuotes) {
+TEST_F(SaveFileTest, ValuesAreCutAtHashLoseOnlyMatchingQuotesAndAreDecodedOnRequest) {
   auto file = Reader(
       "[S]\r\n"
       "quoted=\"a # b\"\r\n"
@@ -26,14 +26,24 @@ TEST_F(SaveFileTest, ValuesAreCutAtHashAndLoseOnlyMatchingQuotes) {
       "blank=\"\"\r\n"
       "bare=  plain text  # comment\r\n"
       "nokey line\r\n"
-      " spaced key = \"=N/K\"\r\n");
+      " spaced key = \"=N/K\"\r\n"
+      "cells=x`y\xFCz\xFD\r\n"
+      "number=1.5,2\r\n"
+      "[A|B]\r\nk|1==x|y\r\n");
   EXPECT_EQ(file.GetEntryCache("quoted", "S"), "\"a");
   EXPECT_EQ(file.GetEntryCache("empty", "S"), "");
   EXPECT_EQ(file.GetEntryCache("blank", "S"), "");
   EXPECT_EQ(file.GetEntryCache("bare", "S"), "plain text");
   EXPECT_EQ(file.GetEntryCache("", "S"), "nokey line");
   EXPECT_EQ(file.GetEntryCache("spaced key", "S"), "=N/K");
+  EXPECT_EQ(file.GetEntryCache("cells", "S", true), "x:y:z;") << "cells are decoded on request";
+  EXPECT_EQ(file.GetEntryCache("number", "S", false, true), "1.5.2") << "and numbers localised";
+  EXPECT_EQ(file.GetEntryCache("k|1", "A|B"), "=x|y") << "names may hold bars, values bars and equals";
   EXPECT_TRUE(recorder.box.shown.empty());
+  clsSaveFile comma(recorder.messages, ',');
+  comma.OpenText("[S]\r\nb=1.5,2\r\n");
+  comma.ReadFile();
+  EXPECT_EQ(comma.GetEntryCache("b", "S", false, true), "1,5,2");
 }
 
 TEST_F(SaveFileTest, CursorOnlyMovesForward) {
@@ -62,7 +72,7 @@ TEST_F(SaveFileTest, CursorOnlyMovesForward) {
   EXPECT_EQ(recorder.box.shown[0].icon, MsgIcon::Critical);
 }
 
-TEST_F(SaveFileTest, SectionHeadersAndCommentsBetweenThem) {
+TEST_F(SaveFileTest, SectionHeadersAndCommentsBetweenThemAndAnEmptyHeader) {
   auto file = Reader("# [not a header]\n\n[ Spaced ]\n# [still not]\n  a = 1  \n[[Double]]\nb=2");
   EXPECT_EQ(file.GetEntryCache("a", "Spaced"), "1");
   EXPECT_EQ(file.GetEntryCache("b", "[Double]"), "2");
@@ -70,29 +80,11 @@ TEST_F(SaveFileTest, SectionHeadersAndCommentsBetweenThem) {
   EXPECT_EQ(file.GotoSection("Spaced"), "[ Spaced ]");
   EXPECT_EQ(file.GotoNextSection(), "[Double]");
   EXPECT_EQ(file.GotoNextSection(), "");
+  EXPECT_EQ(Reader("[A]\r\nx=1\r\n[]\r\ny=2\r\n[C]\r\nz=3\r\n").CacheSize(), 1u)
+      << "an empty section name ends the cache";
 }
 
-TEST_F(SaveFileTest, EmptySectionNameEndsTheCache) {
-  auto file = Reader("[A]\r\nx=1\r\n[]\r\ny=2\r\n[C]\r\nz=3\r\n");
-  EXPECT_EQ(file.CacheSize(), 1u);
-}
-
-TEST_F(SaveFileTest, ValuesMayHoldBarsAndEquals) {
-  auto file = Reader("[A|B]\r\nk|1==x|y\r\n");
-  EXPECT_EQ(file.GetEntryCache("k|1", "A|B"), "=x|y");
-}
-
-TEST_F(SaveFileTest, CellsAreDecodedAndLocalisedOnRequest) {
-  auto file = Reader("[S]\r\na=x`y\xFCz\xFD\r\nb=1.5,2\r\n");
-  EXPECT_EQ(file.GetEntryCache("a", "S", true), "x:y:z;");
-  EXPECT_EQ(file.GetEntryCache("b", "S", false, true), "1.5.2");
-  clsSaveFile comma(recorder.messages, ',');
-  comma.OpenText("[S]\r\nb=1.5,2\r\n");
-  comma.ReadFile();
-  EXPECT_EQ(comma.GetEntryCache("b", "S", false, true), "1,5,2");
-}
-
-TEST_F(SaveFileTest, GridStringsRoundTripLossily) {
+TEST_F(SaveFileTest, GridStringsRoundTripLossilyAndRaggedOnesAreReported) {
   clsSaveFile writer(recorder.messages);
   Grid grid(2, 3);
   grid.at(0, 0) = "x;y";
@@ -103,29 +95,26 @@ TEST_F(SaveFileTest, GridStringsRoundTripLossily) {
   EXPECT_EQ(text, "{\"x`y\";\"a`b\";Empty: Empty;\"=N*2\";\"=MIN(65`MAX(N`K))\"}");
   Grid back;
   writer.FillArray(text, back);
-  ASSERT_EQ(back.rows(), 2u);
-  ASSERT_EQ(back.cols(), 3u);
-  EXPECT_EQ(back.at(0, 0), "x:y") << "a semicolon comes back as a colon";
-  EXPECT_EQ(back.at(0, 1), "a:b");
-  EXPECT_EQ(back.at(1, 1), "=N*2");
-  EXPECT_EQ(back.at(1, 2), "=MIN(65;MAX(N;K))") << "a function reads back as it was typed";
+  // A semicolon comes back as a colon, but a function reads back as it was typed.
+  Grid expected = grid;
+  expected.at(0, 0) = "x:y";
+  expected.at(1, 1) = "=N*2";
+  EXPECT_EQ(back, expected);
 
   Grid none;
   writer.FillArray(writer.GridBufferToString(none), back);
   EXPECT_EQ(back, none);
   EXPECT_TRUE(recorder.box.shown.empty());
-}
 
-TEST_F(SaveFileTest, FillArrayKeepsTargetOrRowsBeforeARaggedOne) {
-  clsSaveFile file(recorder.messages);
+  // Text that is no braced array leaves the target alone; a ragged row is reported, the rows before it kept.
   Grid target(1, 1);
   target.at(0, 0) = "kept";
-  file.FillArray("\"1\";\"2\"", target);
-  file.FillArray("{\"1\"", target);
+  writer.FillArray("\"1\";\"2\"", target);
+  writer.FillArray("{\"1\"", target);
   EXPECT_EQ(target.at(0, 0), "kept");
   EXPECT_TRUE(recorder.box.shown.empty());
 
-  file.FillArray("{\"1\";\"2\": \"3\";\"4\": \"5\": \"6\";\"7\"}", target);
+  writer.FillArray("{\"1\";\"2\": \"3\";\"4\": \"5\": \"6\";\"7\"}", target);
   ASSERT_EQ(recorder.box.shown.size(), 1u);
   EXPECT_EQ(recorder.box.shown[0].text,
             "There is a problem with the data\r\n\r\nHave you modified the data file manually?");
@@ -134,7 +123,7 @@ TEST_F(SaveFileTest, FillArrayKeepsTargetOrRowsBeforeARaggedOne) {
   EXPECT_EQ(target.at(1, 1), "4");
 }
 
-TEST_F(SaveFileTest, EntriesAreWrittenWithCommentsAtColumnFifty) {
+TEST_F(SaveFileTest, EntriesAreWrittenWithCommentsAtColumnFiftyOrBareInADump) {
   clsSaveFile file(recorder.messages);
   file.OpenFile("unused", clsSaveFile::ModeWrite);
   file.SaveEntry("NumIter", "500", "Number of iterations/simulations");
@@ -152,17 +141,15 @@ TEST_F(SaveFileTest, EntriesAreWrittenWithCommentsAtColumnFifty) {
       std::string(48, 'k') + "=\"x\" # long\r\n"
       "\r\n[S]\r\n# c\r\n\r\n";
   EXPECT_EQ(file.WrittenText(), expected);
-}
 
-TEST_F(SaveFileTest, SimplifiedDumpWritesBareValues) {
-  clsSaveFile file(recorder.messages);
-  file.OpenFile("unused", clsSaveFile::ModeWrite);
-  file.SimplifiedDump(true);
+  clsSaveFile dump(recorder.messages);
+  dump.OpenFile("unused", clsSaveFile::ModeWrite);
+  dump.SimplifiedDump(true);
   Grid grid(1, 2);
   grid.at(0, 0) = "a;b";
-  file.SaveEntry("Key", "v", "comment");
-  file.SaveEntry("Grid", file.GridBufferToString(grid), "comment", false);
-  EXPECT_EQ(file.WrittenText(), "\"v\"\r\n\"a;b\"\r\nEmpty\r\n");
+  dump.SaveEntry("Key", "v", "comment");
+  dump.SaveEntry("Grid", dump.GridBufferToString(grid), "comment", false);
+  EXPECT_EQ(dump.WrittenText(), "\"v\"\r\n\"a;b\"\r\nEmpty\r\n") << "a simplified dump writes bare values";
 }
 
 TEST(SaveFileEncodings, ListsAndArrays) {

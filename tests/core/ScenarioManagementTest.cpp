@@ -21,19 +21,15 @@ std::string NameAt(const ScenarioCollection& scenarios, std::size_t n) {
   return scenarios.Item(n).Text(F("txtSceneName"));
 }
 
-TEST(ScenarioManagement, CopiesAreNumberedAfterTheirTemplate) {
-  ScenarioCollection scenarios = Named({"Baseline", "Harvest"});
-  EXPECT_EQ(AddScenarioCopies(scenarios, 1, 3), 3u);
-  ASSERT_EQ(scenarios.Count(), 5u);
-  EXPECT_EQ(NameAt(scenarios, 3), "Baseline - Copy 1");
-  EXPECT_EQ(NameAt(scenarios, 5), "Baseline - Copy 3");
-  EXPECT_EQ(scenarios.Item(5).Text(F("txtNumPop")), "Baseline") << "the copy has the template's inputs";
-}
-
-TEST(ScenarioManagement, TemplateProposalAvoidsSTScenarios) {
-  const ScenarioCollection scenarios = Named({"Baseline", "Dry", "ST.Low", "ST.High"});
+TEST(ScenarioManagement, CopiesAreNumberedAfterTheirTemplateWhichAvoidsSTScenarios) {
+  ScenarioCollection scenarios = Named({"Baseline", "Dry", "ST.Low", "ST.High"});
   EXPECT_EQ(ProposedTemplate(scenarios, 1), 1u);
   EXPECT_EQ(ProposedTemplate(scenarios, 4), 2u);
+  EXPECT_EQ(AddScenarioCopies(scenarios, 1, 3), 5u) << "the place of the first copy";
+  ASSERT_EQ(scenarios.Count(), 7u);
+  EXPECT_EQ(NameAt(scenarios, 5), "Baseline - Copy 1");
+  EXPECT_EQ(NameAt(scenarios, 7), "Baseline - Copy 3");
+  EXPECT_EQ(scenarios.Item(7).Text(F("txtNumPop")), "Baseline") << "the copy has the template's inputs";
 }
 
 TEST(ScenarioManagement, NameRules) {
@@ -46,7 +42,7 @@ TEST(ScenarioManagement, NameRules) {
     EXPECT_EQ(ScenarioNameProblem(scenarios, 2, bad), msg::kNameCharacters) << bad;
 }
 
-TEST(ScenarioManagement, DeleteAsksAndProtectsSTScenarios) {
+TEST(ScenarioManagement, DeleteAsksAndProtectsSTScenariosAndMovesStopAtTheEnds) {
   ScenarioCollection scenarios = Named({"Baseline", "Dry", "ST.Low"});
   test::MessageRecorder recorder;
   EXPECT_EQ(DeleteScenario(scenarios, 3, recorder.messages), std::nullopt);
@@ -66,10 +62,8 @@ TEST(ScenarioManagement, DeleteAsksAndProtectsSTScenarios) {
   EXPECT_EQ(NameAt(scenarios, 1), "Dry");
   EXPECT_EQ(DeleteScenario(scenarios, 1, recorder.messages), 1u) << "the ST scenario moved up and is shown";
   EXPECT_EQ(scenarios.Count(), 1u);
-}
 
-TEST(ScenarioManagement, Reorder) {
-  ScenarioCollection scenarios = Named({"A", "B", "C"});
+  scenarios = Named({"A", "B", "C"});
   EXPECT_EQ(MoveScenarioUp(scenarios, 1), 1u);
   EXPECT_EQ(MoveScenarioDown(scenarios, 1), 2u);
   EXPECT_EQ(NameAt(scenarios, 1), "B");

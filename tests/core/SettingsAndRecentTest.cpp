@@ -9,22 +9,19 @@ namespace {
 
 using test::MemorySettingsStore;
 
-void StoreGlobal(MemorySettingsStore& store, const std::string& key, const std::string& value) {
-  store.SaveSetting("Tamsic 9.99c", "GlobalSettings", key, value);
+void StoreGlobal(MemorySettingsStore& store, const char* equation, const char* welcome, const char* language) {
+  store.SaveSetting("Tamsic 9.99c", "GlobalSettings", "ShowEquationDialogOnEquals", equation);
+  store.SaveSetting("Tamsic 9.99c", "GlobalSettings", "ShowWelcome", welcome);
+  store.SaveSetting("Tamsic 9.99c", "GlobalSettings", "Language", language);
 }
 
 TEST(GlobalSettings, AbsentOrUnreadableValuesFallBackToOne) {
   MemorySettingsStore store;
   EXPECT_EQ(ReadGlobalSettings(store), (GlobalSettings{1, 1, 1}));
 
-  StoreGlobal(store, "ShowEquationDialogOnEquals", "yes");
-  StoreGlobal(store, "ShowWelcome", "0x");
-  StoreGlobal(store, "Language", "7");
+  StoreGlobal(store, "yes", "0x", "7");
   EXPECT_EQ(ReadGlobalSettings(store), (GlobalSettings{1, 1, 1}));
-
-  StoreGlobal(store, "ShowEquationDialogOnEquals", " 0 ");
-  StoreGlobal(store, "ShowWelcome", "0");
-  StoreGlobal(store, "Language", "3");
+  StoreGlobal(store, " 0 ", "0", "3");
   EXPECT_EQ(ReadGlobalSettings(store), (GlobalSettings{0, 0, 3}));
 }
 
@@ -32,30 +29,24 @@ std::string Stored(const MemorySettingsStore& store, const std::string& key) {
   return store.GetSetting("RichEdit", "MRUList", key, "<absent>");
 }
 
-TEST(RecentProjects, ReopeningMovesToTopIgnoringCaseWithoutDuplicate) {
+TEST(RecentProjects, ReopeningMovesToTopAndAnEleventhDropsTheOldest) {
   MemorySettingsStore store;
   RecentProjects recent(store);
   recent.Add("/p/Trout.tpj", "Trout");
   recent.Add("/p/Salmon.tpj", "Salmon");
   recent.Add("/P/TROUT.tpj", "Trout again");
-
-  ASSERT_EQ(recent.Entries().size(), 2u);
+  ASSERT_EQ(recent.Entries().size(), 2u) << "the same file, ignoring case, is not listed twice";
   EXPECT_EQ(recent.Entries()[0], (RecentProject{"/P/TROUT.tpj", "Trout again"}));
   EXPECT_EQ(Stored(store, "1Name"), "/P/TROUT.tpj");
   EXPECT_EQ(Stored(store, "1Title"), "Trout again");
   EXPECT_EQ(Stored(store, "2Name"), "/p/Salmon.tpj");
   EXPECT_EQ(Stored(store, "3Name"), "");
-}
 
-TEST(RecentProjects, EleventhProjectDropsTheOldest) {
-  MemorySettingsStore store;
-  RecentProjects recent(store);
-  for (int n = 1; n <= 11; ++n) recent.Add("/p/" + std::to_string(n) + ".tpj", "");
-
+  for (int n = 1; n <= 9; ++n) recent.Add("/p/" + std::to_string(n) + ".tpj", "");
   ASSERT_EQ(recent.Entries().size(), 10u);
-  EXPECT_EQ(recent.Entries().front().name, "/p/11.tpj");
-  EXPECT_EQ(recent.Entries().back().name, "/p/2.tpj");
-  EXPECT_EQ(Stored(store, "10Name"), "/p/2.tpj");
+  EXPECT_EQ(recent.Entries().front().name, "/p/9.tpj");
+  EXPECT_EQ(recent.Entries().back().name, "/P/TROUT.tpj") << "Salmon, the oldest, is dropped";
+  EXPECT_EQ(Stored(store, "10Name"), "/P/TROUT.tpj");
   EXPECT_EQ(Stored(store, "11Name"), "<absent>");
 }
 

@@ -3,14 +3,14 @@
 #include "model/NewScenario.h"
 #include "model/ScenarioShape.h"
 #include "pages/StableAgeDistribution.h"
+#include "support/FakeEngine.h"
 
 namespace tamsic {
 namespace {
 
 // Answers agedist with the size spread over three ages of each sex.
-class AgeEngine : public Engine {
+class AgeEngine : public test::FakeEngine {
  public:
-  std::string tamsicsim(const std::string&, const std::string&, const std::string&) override { return {}; }
   std::string tcheckin(const std::string& text, std::int32_t flag) override {
     checkedIn = text;
     checkInFlag = flag;
@@ -21,13 +21,6 @@ class AgeEngine : public Engine {
     if (size == 13) return "Error: no stable distribution";
     return std::to_string(size / 4) + ";" + std::to_string(size / 4) + ";0:" + std::to_string(size / 2) + ";0;0";
   }
-  std::string detGraphValues(const std::string&, std::int32_t) override { return {}; }
-  std::string findpolyg(std::int16_t, const std::array<double, 4>&) override { return {}; }
-  std::string testFormula(const std::string&) override { return {}; }
-  std::string formulaGraphValues(const std::string&, const GraphRequest&) override { return {}; }
-  std::optional<std::string> progress() override { return std::nullopt; }
-  bool cancel() override { return false; }
-  void close() override {}
 
   std::string checkInReply = "Message: scenario loaded";
   std::string checkedIn;
@@ -47,7 +40,7 @@ clsScenario TwoPopulations(const char* first, const char* second) {
   return s;
 }
 
-TEST(StableAgeDistribution, SpreadsEachPopulationsSizeOverItsAges) {
+TEST(StableAgeDistribution, SpreadsEachPopulationsSizeOverItsAgesOrChangesNothing) {
   AgeEngine engine;
   clsScenario s = TwoPopulations("100", "40");
   ASSERT_EQ(ApplyStableAgeDistribution(s, 3, "/tmp/work.tpj", engine), std::nullopt);
@@ -62,15 +55,12 @@ TEST(StableAgeDistribution, SpreadsEachPopulationsSizeOverItsAges) {
   EXPECT_EQ(males.at(1, 1), "50");
   EXPECT_EQ(females.at(2, 2), "10");
   EXPECT_EQ(females.at(0, 1), "Females Age 1") << "headings stay";
-}
 
-TEST(StableAgeDistribution, AnEngineErrorChangesNothing) {
-  AgeEngine engine;
-  clsScenario s = TwoPopulations("100", "13");
+  // An engine error, for the second population or at check-in, changes nothing.
+  s = TwoPopulations("100", "13");
   const clsScenario before = s;
   EXPECT_EQ(ApplyStableAgeDistribution(s, 1, "w.tpj", engine), "Error: no stable distribution");
   EXPECT_EQ(s, before);
-
   engine.checkInReply = "Error: scenario 1 has no populations";
   EXPECT_EQ(ApplyStableAgeDistribution(s, 1, "w.tpj", engine), "Error: scenario 1 has no populations");
   EXPECT_EQ(s, before);

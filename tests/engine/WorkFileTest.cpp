@@ -12,8 +12,7 @@ class WorkFileFolder : public ::testing::Test {
  protected:
   void SetUp() override {
     application = std::filesystem::temp_directory_path() /
-                  ("tamsic-workfile-" +
-                   std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+                  ("tamsic-workfile-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
     std::filesystem::remove_all(application);
     std::filesystem::create_directories(application);
   }
@@ -21,18 +20,16 @@ class WorkFileFolder : public ::testing::Test {
   std::filesystem::path application;
 };
 
-TEST_F(WorkFileFolder, FreshFilesInTheApplicationsTempFolder) {
+TEST_F(WorkFileFolder, FreshFilesInTheApplicationsTempFolderOrElseTheUsers) {
   const auto first = CreateWorkFile(application);
   const auto second = CreateWorkFile(application);
   EXPECT_EQ(first.parent_path(), application / "Temp");
   EXPECT_NE(first, second);
   EXPECT_TRUE(std::filesystem::is_regular_file(first));
   EXPECT_EQ(std::filesystem::file_size(second), 0u);
-}
 
-// A folder that cannot be made (here: its parent is a file) sends the work
-// file to the user's own temporary folder.
-TEST_F(WorkFileFolder, UnwritableApplicationFolderFallsBackToTheUsersFolder) {
+  // A folder that cannot be made (here: its parent is a file) sends the work
+  // file to the user's own temporary folder.
   std::ofstream(application / "plain-file") << "x";
   const auto file = CreateWorkFile(application / "plain-file");
   EXPECT_EQ(file.parent_path(), UserTempFolder());

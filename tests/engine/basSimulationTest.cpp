@@ -46,29 +46,23 @@ TEST(basSimulation, ScenarioListAndOptions) {
   EXPECT_EQ(basSimulation::OptionsString("", ""), "");
 }
 
-TEST_F(RunCall, NormalEndDeletesTheWorkFile) {
+// Only a reply that starts with "Message" deletes the work file.
+TEST_F(RunCall, NormalEndDeletesTheWorkFileOtherRepliesKeepIt) {
   test::FakeEngine engine;
   request.flags = "X";
   request.runMode = "META";
-  EXPECT_EQ(run(engine), "Message: done");
-  ASSERT_EQ(engine.runs.size(), 1u);
-  EXPECT_EQ(engine.runs[0].workFile, request.workFile.string());
-  EXPECT_EQ(engine.runs[0].scenarios, "{Base, Harvest}");
-  EXPECT_EQ(engine.runs[0].options, "X;META");
-  EXPECT_EQ(cursor.states, (std::vector<bool>{true, false}));
-  EXPECT_FALSE(std::filesystem::exists(request.workFile));
-  EXPECT_TRUE(recorder.box.shown.empty());
-}
-
-TEST_F(RunCall, OtherRepliesKeepTheWorkFile) {
-  test::FakeEngine engine;
   for (const char* reply : {"message: done", "Messag", "Error: scenario Base: K is 0", ""}) {
     engine.runReply = reply;
     EXPECT_EQ(run(engine), reply);
     EXPECT_TRUE(std::filesystem::exists(request.workFile)) << reply;
   }
   engine.runReply = "Message";
-  run(engine);
+  EXPECT_EQ(run(engine), "Message");
+  ASSERT_EQ(engine.runs.size(), 5u);
+  EXPECT_EQ(engine.runs[4].workFile, request.workFile.string());
+  EXPECT_EQ(engine.runs[4].scenarios, "{Base, Harvest}");
+  EXPECT_EQ(engine.runs[4].options, "X;META");
+  EXPECT_EQ(cursor.states, (std::vector<bool>{true, false, true, false, true, false, true, false, true, false}));
   EXPECT_FALSE(std::filesystem::exists(request.workFile));
   EXPECT_TRUE(recorder.box.shown.empty());
 }

@@ -1,7 +1,6 @@
 // What the values on the pages switch on and off, grids re-shaped by their
 // counts, the page links, and the hints of the focused control or cell.
 #include <QAbstractButton>
-#include <QComboBox>
 #include <QSignalSpy>
 
 #include "PagesHarness.h"
@@ -11,11 +10,8 @@ class PageEnablingTest : public QObject {
  private slots:
   void rules_data();
   void rules();
-  void hermaphroditesHaveNoSexRatio();
-  void stateVariableCounts_data();
   void stateVariableCounts();
-  void pageLinksFollowTheCounts();
-  void hintsFollowTheFocus();
+  void pageLinksAndHints();
 };
 
 // A step is "click NAME" or "type NAME VALUE"; the control must then be enabled or not.
@@ -27,15 +23,18 @@ void PageEnablingTest::rules_data() {
   QTest::newRow("critical size unused") << QStringList{} << "txtExtinctN" << false;
   QTest::newRow("critical size used") << QStringList{"click optExtinctDef_1"} << "txtExtinctN" << true;
   QTest::newRow("hermaphrodites: no male age") << QStringList{"click optMPHLQ_2"} << "txtAgeReproM" << false;
+  QTest::newRow("hermaphrodites: no sex ratio") << QStringList{"click optMPHLQ_2"} << "txtSexRatio" << false;
   QTest::newRow("monogamy again") << QStringList{"click optMPHLQ_2", "click optMPHLQ_0"} << "txtSexRatio" << true;
   QTest::newRow("exact distribution: no mean") << QStringList{} << "gridRepRates2" << false;
   QTest::newRow("normal distribution") << QStringList{"click optUseMean_0"} << "gridRepRates2" << true;
   QTest::newRow("stable ages: no ages") << QStringList{} << "gridInitPopMale" << false;
   QTest::newRow("given ages") << QStringList{"click optStartWith_1"} << "gridInitPopFemale" << true;
-  QTest::newRow("studbook") << QStringList{"click chkGenMgtImportStudbookFile"} << "valtxtGenMgtImportStudbookFile" << true;
+  QTest::newRow("studbook") << QStringList{"click chkGenMgtImportStudbookFile"}
+                            << "valtxtGenMgtImportStudbookFile" << true;
   QTest::newRow("allele file") << QStringList{"click chkGenMgtAlleleFreqs"} << "cmdBrowseGenMgtAlleleFreqs" << true;
   QTest::newRow("kinship on") << QStringList{"click chkGenMgtPairMeanKinship"} << "SSOptGenMgtPairMK_0" << true;
-  QTest::newRow("matings limited") << QStringList{"click chkGenMgtPreventMatingsF"} << "valtxtGenMgtNumTimesTryFindMate" << true;
+  QTest::newRow("matings limited") << QStringList{"click chkGenMgtPreventMatingsF"}
+                                   << "valtxtGenMgtNumTimesTryFindMate" << true;
   QTest::newRow("one population: no EV correlation") << QStringList{} << "txtEV" << false;
   QTest::newRow("two populations") << QStringList{"type txtNumPop 2"} << "txtEV" << true;
   QTest::newRow("copy between two") << QStringList{"type txtNumPop 2"} << "cboPopulationPicker" << true;
@@ -65,49 +64,33 @@ void PageEnablingTest::rules() {
     QCOMPARE(paint, enabled ? QColor(0xFFFFFF) : QColor(0xE0E0E0));
   }
   QCOMPARE(h.undo.count(), static_cast<int>(steps.size()));
+  // A sex ratio that is switched off is stored as 0.
+  if (control == "txtSexRatio" && !enabled) QCOMPARE(h.record().Text(tamsic::F("txtSexRatio")), std::string("0"));
 }
 
-void PageEnablingTest::hermaphroditesHaveNoSexRatio() {
-  pagestest::Harness h;
-  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
-  auto* option = h.find<QAbstractButton>("optMPHLQ_2");
-  h.showPageOf(option);
-  QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(6, option->height() / 2));
-  QCOMPARE(h.find<QLineEdit>("txtSexRatio")->text(), QString("0"));
-  QVERIFY(!h.find<QLineEdit>("txtSexRatio")->isEnabled());
-  QCOMPARE(h.record().Text(tamsic::F("txtSexRatio")), std::string("0"));
-}
-
-void PageEnablingTest::stateVariableCounts_data() {
-  QTest::addColumn<QString>("box");
-  QTest::addColumn<QString>("grid");
-  QTest::addColumn<QString>("prefix");
-  QTest::addColumn<int>("firstVariableColumn");
-  QTest::newRow("population") << "txtNumPopStateVars" << "gridPopLabels" << "PS" << 2;
-  QTest::newRow("global") << "txtNumGlobalVars" << "gridGlobalVars" << "GS" << 1;
-  QTest::newRow("individual") << "txtNumIndividualStateParams" << "gridIndividualStateParams" << "IS" << 1;
-}
-
+// Each count names the grid's variable columns; no variables leave the grid its fixed columns.
 void PageEnablingTest::stateVariableCounts() {
-  QFETCH(QString, box);
-  QFETCH(QString, grid);
-  QFETCH(QString, prefix);
-  QFETCH(int, firstVariableColumn);
   pagestest::Harness h;
   QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
-  const QByteArray gridName = grid.toUtf8();
-  h.type(box.toUtf8().constData(), "3");
-  GridModel* model = h.grid(gridName.constData())->grid();
-  QCOMPARE(model->columnCount(), firstVariableColumn + 2);
-  for (int v = 0; v < 3; ++v)
-    QCOMPARE(model->headerData(firstVariableColumn - 1 + v, Qt::Horizontal, Qt::DisplayRole).toString(),
-             prefix + QString::number(v + 1));
-  h.type(box.toUtf8().constData(), "0");
-  QCOMPARE(h.record().GetGrid(*tamsic::FieldByMember(gridName.toStdString())).cols(), std::size_t{2});
-  if (firstVariableColumn == 1) QVERIFY(!h.grid(gridName.constData())->isEnabled());
+  const struct { const char *box, *grid; QString prefix; int firstVariableColumn; } counts[] = {
+      {"txtNumPopStateVars", "gridPopLabels", "PS", 2},
+      {"txtNumGlobalVars", "gridGlobalVars", "GS", 1},
+      {"txtNumIndividualStateParams", "gridIndividualStateParams", "IS", 1}};
+  for (const auto& count : counts) {
+    h.type(count.box, "3");
+    GridModel* model = h.grid(count.grid)->grid();
+    QCOMPARE(model->columnCount(), count.firstVariableColumn + 2);
+    for (int v = 0; v < 3; ++v)
+      QCOMPARE(model->headerData(count.firstVariableColumn - 1 + v, Qt::Horizontal, Qt::DisplayRole).toString(),
+               count.prefix + QString::number(v + 1));
+    h.type(count.box, "0");
+    QCOMPARE(h.record().GetGrid(*tamsic::FieldByMember(count.grid)).cols(), std::size_t{2});
+    if (count.firstVariableColumn == 1) QVERIFY(!h.grid(count.grid)->isEnabled());
+  }
 }
 
-void PageEnablingTest::pageLinksFollowTheCounts() {
+// The page links follow the counts; the hint follows the focused control or cell.
+void PageEnablingTest::pageLinksAndHints() {
   pagestest::Harness h;
   QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
   QSignalSpy changed(h.pages.get(), &InputPages::availabilityChanged);
@@ -119,11 +102,8 @@ void PageEnablingTest::pageLinksFollowTheCounts() {
   QVERIFY(!h.pages->pageAvailable(InputPages::Catastrophes));
   QVERIFY(changed.count() >= 2);
   QCOMPARE(h.pages->linkHint(InputPages::Dispersal), QString::fromStdString(h.strings.text(1303)));
-}
 
-void PageEnablingTest::hintsFollowTheFocus() {
-  pagestest::Harness h;
-  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  h.pages->showPage(InputPages::Settings);
   QSignalSpy hints(h.pages.get(), &InputPages::hintChanged);
   QLineEdit* years = h.find<QLineEdit>("txtNumYear");
   years->setFocus();

@@ -11,11 +11,9 @@
 class PageHelpersTest : public QObject {
   Q_OBJECT
  private slots:
-  void dispersalCommands();
-  void copyInputValues();
+  void dispersalCommandsAndCopyInputValues();
   void equalsSignOpensTheEditorWhenAsked();
-  void stableAgesFillTheAgeGrids();
-  void catastropheScopeByItsFirstLetter();
+  void stableAgesAndCatastropheScope();
 };
 
 namespace {
@@ -26,38 +24,39 @@ void Click(pagestest::Harness& h, const char* name) {
   button->click();
 }
 
-void TwoPopulationsWithRates(pagestest::Harness& h) {
-  h.type("txtNumPop", "2");
-  h.editCell("gridDispRates", 1, 2, "1.25");
-  QTRY_COMPARE(h.cell("gridDispRates", 1, 2), std::string("1.25"));
-  h.editCell("gridDispRates", 2, 1, "=D");
-  QTRY_COMPARE(h.cell("gridDispRates", 2, 1), std::string("=D"));
-}
-
-DispersalPage* Dispersal(pagestest::Harness& h) {
-  return static_cast<DispersalPage*>(h.pages->page(InputPages::Dispersal));
+// Shows the grid's page and puts the focus on its first cell.
+GridView* FocusFirstCell(pagestest::Harness& h, const char* name) {
+  GridView* view = h.grid(name);
+  h.showPageOf(view);
+  view->setFocus();
+  view->setCurrentIndex(view->grid()->indexAt(1, 1));
+  return view;
 }
 
 }  // namespace
 
 // The commands reach the matrix (whose arithmetic and file format the core
 // tests cover) as undoable edits, and the diagonal stays the page's own.
-void PageHelpersTest::dispersalCommands() {
+void PageHelpersTest::dispersalCommandsAndCopyInputValues() {
   pagestest::Harness h;
   QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
-  TwoPopulationsWithRates(h);
+  h.type("txtNumPop", "2");
+  h.editCell("gridDispRates", 1, 2, "1.25");
+  QTRY_COMPARE(h.cell("gridDispRates", 1, 2), std::string("1.25"));
+  h.editCell("gridDispRates", 2, 1, "=D");
+  QTRY_COMPARE(h.cell("gridDispRates", 2, 1), std::string("=D"));
   GridModel* rates = h.grid("gridDispRates")->grid();
   QCOMPARE(rates->indexAt(1, 1).data().toString(), QString("98.75"));  // what stays home
   QVERIFY(!(rates->flags(rates->indexAt(1, 1)) & Qt::ItemIsEditable));
 
   QTemporaryDir folder;
-  const QString path = folder.filePath("RateMatrix.txt");
-  Dispersal(h)->chooseFile = [&](bool) { return path; };
+  auto* dispersal = static_cast<DispersalPage*>(h.pages->page(InputPages::Dispersal));
+  dispersal->chooseFile = [path = folder.filePath("RateMatrix.txt")](bool) { return path; };
   Click(h, "SSCommand2");
-  Dispersal(h)->txtApplyMultiplier->setText("2");
+  dispersal->txtApplyMultiplier->setText("2");
   Click(h, "cmdApplyMultiplier");
   QCOMPARE(h.cell("gridDispRates", 2, 1), std::string("=D*2"));
-  Dispersal(h)->txtFillDispersal->setText("2.5");
+  dispersal->txtFillDispersal->setText("2.5");
   Click(h, "cmdFillDispersal");
   QCOMPARE(rates->indexAt(2, 2).data().toString(), QString("97.5"));
   h.undo.undo();
@@ -65,12 +64,8 @@ void PageHelpersTest::dispersalCommands() {
   Click(h, "SSCommand1");
   QCOMPARE(h.cell("gridDispRates", 1, 2), std::string("1.25"));
   QCOMPARE(h.cell("gridDispRates", 2, 1), std::string("=D"));
-}
 
-// The pickers reach the core's copy (whose cases the core tests cover) as one undoable edit.
-void PageHelpersTest::copyInputValues() {
-  pagestest::Harness h;
-  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  // The pickers reach the core's copy (whose cases the core tests cover) as one undoable edit.
   h.type("txtNumPop", "3");
   h.editCell("gridRepRates1", 1, 1, "40");
   QTRY_COMPARE(h.cell("gridRepRates1", 1, 1), std::string("40"));
@@ -98,10 +93,7 @@ void PageHelpersTest::equalsSignOpensTheEditorWhenAsked() {
     opened << text;
     return answer;
   };
-  GridView* view = h.grid("gridCarryingCap1");
-  h.showPageOf(view);
-  view->setFocus();
-  view->setCurrentIndex(view->grid()->indexAt(1, 1));
+  GridView* view = FocusFirstCell(h, "gridCarryingCap1");
   QTest::keyClicks(view, "=");
   QCOMPARE(opened, QStringList{"300"});
   QCOMPARE(h.cell("gridCarryingCap1", 1, 1), std::string("=K*0.5"));
@@ -110,11 +102,7 @@ void PageHelpersTest::equalsSignOpensTheEditorWhenAsked() {
   answer.reset();
   QTest::keyClicks(view, "=");
   QCOMPARE(h.cell("gridCarryingCap1", 1, 1), std::string("=K*0.5"));
-  GridView* labels = h.grid("gridPopLabels");
-  h.showPageOf(labels);
-  labels->setFocus();
-  labels->setCurrentIndex(labels->grid()->indexAt(1, 1));
-  QTest::keyClicks(labels, "=");
+  QTest::keyClicks(FocusFirstCell(h, "gridPopLabels"), "=");
   QCOMPARE(opened.size(), 2);
 
   // A box that may hold a function opens the editor on "=" typed at its start.
@@ -128,18 +116,23 @@ void PageHelpersTest::equalsSignOpensTheEditorWhenAsked() {
   QCOMPARE(box->text(), QString("=D*(1-N/K)"));
 
   showOnEquals = false;
-  view->setFocus();
-  h.showPageOf(view);
-  view->setFocus();
-  QTest::keyClicks(view, "=");
+  QTest::keyClicks(FocusFirstCell(h, "gridCarryingCap1"), "=");
   auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
   QVERIFY(editor);
   QCOMPARE(editor->text(), QString("="));
 }
 
-void PageHelpersTest::stableAgesFillTheAgeGrids() {
+// The catastrophe scope takes the first letter of its word; stable ages fill the age grids.
+void PageHelpersTest::stableAgesAndCatastropheScope() {
   pagestest::Harness h;
   QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
+  GridView* scope = FocusFirstCell(h, "gridCatastrophes1");
+  QTest::keyClicks(scope, "g");
+  QCOMPARE(h.cell("gridCatastrophes1", 1, 1), std::string("Global"));
+  QTest::keyClicks(scope, "L");
+  QCOMPARE(h.cell("gridCatastrophes1", 1, 1), std::string("Local"));
+  QCOMPARE(h.undo.count(), 2);
+
   std::vector<std::size_t> asked;
   h.context.stableAgeDistribution = [&](tamsic::clsScenario& record, std::size_t number) {
     asked.push_back(number);
@@ -165,20 +158,6 @@ void PageHelpersTest::stableAgesFillTheAgeGrids() {
   h.box.expect("Error: the engine library could not be loaded");
   stable->click();
   QVERIFY(h.record().Truth(tamsic::F("optStartWith_0")));
-}
-
-void PageHelpersTest::catastropheScopeByItsFirstLetter() {
-  pagestest::Harness h;
-  QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
-  GridView* scope = h.grid("gridCatastrophes1");
-  h.showPageOf(scope);
-  scope->setFocus();
-  scope->setCurrentIndex(scope->grid()->indexAt(1, 1));
-  QTest::keyClicks(scope, "g");
-  QCOMPARE(h.cell("gridCatastrophes1", 1, 1), std::string("Global"));
-  QTest::keyClicks(scope, "L");
-  QCOMPARE(h.cell("gridCatastrophes1", 1, 1), std::string("Local"));
-  QCOMPARE(h.undo.count(), 2);
 }
 
 QTEST_MAIN(PageHelpersTest)

@@ -2,7 +2,6 @@
 // the bar and its dialogs do them; the rules themselves are the core's and
 // its tests cover them.
 #include <QComboBox>
-#include <QTableWidget>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -16,11 +15,9 @@ class ScenarioBarTest : public QObject {
   Q_OBJECT
  private slots:
   void copiesOfATemplate();
-  void deleteAsksFirst();
-  void renameRules_data();
+  void moveAndDelete();
   void renameRules();
   void reorderCautionsAndFollowsTheCurrentScenario();
-  void previousAndNext();
 };
 
 namespace {
@@ -57,11 +54,17 @@ void ScenarioBarTest::copiesOfATemplate() {
   QCOMPARE(h.undo.count(), 0);  // the numbers the history refers to are no longer sure
 }
 
-void ScenarioBarTest::deleteAsksFirst() {
+// Previous and next follow the place of the current scenario; deleting asks first.
+void ScenarioBarTest::moveAndDelete() {
   pagestest::Harness h;
   QVERIFY(!h.bar->cmdDeleteScene->isEnabled());  // the last scenario stays
+  QVERIFY(!h.bar->cmdPrevScene->isEnabled());
+  QVERIFY(!h.bar->cmdNextScene->isEnabled());
   AddNamed(h, {"Dry", "Wet"});
-  h.bar->next();
+  QVERIFY(h.bar->cmdNextScene->isEnabled());
+  h.bar->cmdNextScene->click();
+  QCOMPARE(h.find<QLineEdit>("txtSceneName")->text(), QString("Dry"));
+  QVERIFY(h.bar->cmdPrevScene->isEnabled());
   QVERIFY(h.bar->cmdDeleteScene->isEnabled());
   const std::string confirm = h.strings.text(9121);
   h.box.expect(confirm, tamsic::MsgAnswer::No);
@@ -72,30 +75,23 @@ void ScenarioBarTest::deleteAsksFirst() {
   QCOMPARE(h.scenarios.Count(), std::size_t{2});
   QCOMPARE(h.find<QLineEdit>("txtSceneName")->text(), QString("Wet"));
   QCOMPARE(h.box.shown.back().caption, h.strings.text(9115));
+  QVERIFY(!h.bar->cmdNextScene->isEnabled());
+  h.bar->cboScenario->setCurrentIndex(0);
+  QCOMPARE(h.pages->currentScenario(), std::size_t{1});
 }
 
-void ScenarioBarTest::renameRules_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("message");
-  QTest::newRow("another case of an existing name") << "DRY" << "Each scenario must have a unique name!";
-  QTest::newRow("its own name in capitals") << "BASELINE" << "";
-}
-
+// Another scenario's name in other capitals is refused; the scenario's own is not.
 void ScenarioBarTest::renameRules() {
-  QFETCH(QString, name);
-  QFETCH(QString, message);
   pagestest::Harness h;
   QVERIFY(QTest::qWaitForWindowActive(h.pages.get()));
   AddNamed(h, {"Dry"});
-  if (!message.isEmpty()) h.box.expect(message.toStdString());
-  h.type("txtSceneName", name);
-  if (message.isEmpty()) {
-    QCOMPARE(QString::fromStdString(Name(h, 1)), name);
-    QCOMPARE(h.bar->cboScenario->itemText(0), name);
-  } else {
-    QCOMPARE(Name(h, 1), std::string("Baseline"));
-    QTRY_VERIFY(h.find<QLineEdit>("txtSceneName")->hasFocus());
-  }
+  h.box.expect("Each scenario must have a unique name!");
+  h.type("txtSceneName", "DRY");
+  QCOMPARE(Name(h, 1), std::string("Baseline"));
+  QTRY_VERIFY(h.find<QLineEdit>("txtSceneName")->hasFocus());
+  h.type("txtSceneName", "BASELINE");
+  QCOMPARE(Name(h, 1), std::string("BASELINE"));
+  QCOMPARE(h.bar->cboScenario->itemText(0), QString("BASELINE"));
 }
 
 void ScenarioBarTest::reorderCautionsAndFollowsTheCurrentScenario() {
@@ -114,20 +110,6 @@ void ScenarioBarTest::reorderCautionsAndFollowsTheCurrentScenario() {
   QCOMPARE(h.pages->currentScenario(), std::size_t{3});
   QCOMPARE(h.bar->cboScenario->itemText(2), QString("Baseline"));
   QVERIFY(!h.bar->cmdNextScene->isEnabled());
-}
-
-void ScenarioBarTest::previousAndNext() {
-  pagestest::Harness h;
-  QVERIFY(!h.bar->cmdPrevScene->isEnabled());
-  QVERIFY(!h.bar->cmdNextScene->isEnabled());
-  AddNamed(h, {"Dry"});
-  QVERIFY(h.bar->cmdNextScene->isEnabled());
-  h.bar->cmdNextScene->click();
-  QCOMPARE(h.find<QLineEdit>("txtSceneName")->text(), QString("Dry"));
-  QVERIFY(h.bar->cmdPrevScene->isEnabled());
-  QVERIFY(!h.bar->cmdNextScene->isEnabled());
-  h.bar->cboScenario->setCurrentIndex(0);
-  QCOMPARE(h.pages->currentScenario(), std::size_t{1});
 }
 
 QTEST_MAIN(ScenarioBarTest)

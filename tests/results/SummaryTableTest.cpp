@@ -34,11 +34,11 @@ class SummaryTableTest : public ::testing::Test {
   std::vector<YearlyData> data;
 };
 
-TEST_F(SummaryTableTest, ScenarioRowsOfTheWholeSystemInTheFinalYear) {
+TEST_F(SummaryTableTest, RowsOfScenariosYearsAndPopulations) {
   TableChoice choice;
   choice.statistic = TableStatistic::MeanAndSD;
   choice.variables = {"P[extinct]", "N[extant]", "MedianTE", "Var1", "nonsense"};
-  const Table table = BuildSummaryTable(Sources(), choice, strings);
+  Table table = BuildSummaryTable(Sources(), choice, strings);
   EXPECT_EQ(table.corner, "Scenario");
   // No SD of P[extinct] or MedianTE; one population and one year: no key columns.
   EXPECT_EQ(table.columns,
@@ -47,18 +47,18 @@ TEST_F(SummaryTableTest, ScenarioRowsOfTheWholeSystemInTheFinalYear) {
   // Base's metapopulation is block 2; Managed has one population, block 0.
   EXPECT_EQ(table.rows[0].cells,
             (std::vector<std::string>{"-2200.25", "2209.25", "2211.25", "2230.25", "2231.25", "2233.25"}));
-  EXPECT_EQ(table.rows[1].cells, (std::vector<std::string>{"-200.25", "209.25", "211.25", "230.25", "231.25", "233.25"}));
+  EXPECT_EQ(table.rows[1].cells,
+            (std::vector<std::string>{"-200.25", "209.25", "211.25", "230.25", "231.25", "233.25"}));
   EXPECT_TRUE(ToCsv(table).ends_with("\r\n\"Managed, K+\",-200.25,209.25,211.25,230.25,231.25,233.25\r\n"));
-}
 
-TEST_F(SummaryTableTest, YearRowsWithinPopulations) {
-  TableChoice choice;
+  // Year rows within populations.
+  choice = {};
   choice.rows = RowDimension::Years;
   choice.statistic = TableStatistic::MeanAndSE;
   choice.populations = {PopulationChoice::Kind::Within, 0};
   choice.yearStep = 1;
   choice.variables = {"GeneDiv"};
-  const Table table = BuildSummaryTable(Sources(), choice, strings);
+  table = BuildSummaryTable(Sources(), choice, strings);
   EXPECT_EQ(table.corner, "Year");
   EXPECT_EQ(table.columns, (std::vector<std::string>{"Scenario", "Within population", "GeneDiv", "SE(GeneDiv)"}));
   ASSERT_EQ(table.rows.size(), 9u);  // 3 years x (2 + 1 populations)
@@ -66,17 +66,16 @@ TEST_F(SummaryTableTest, YearRowsWithinPopulations) {
   EXPECT_EQ(table.rows[1].cells, (std::vector<std::string>{"Base", "Population 2", "1015.25", "1016.25"}));
   EXPECT_EQ(table.rows[2].cells, (std::vector<std::string>{"Managed, K+", "North", "15.25", "16.25"}));
   EXPECT_EQ(table.rows[8].heading, "Year 2");
-}
 
-TEST_F(SummaryTableTest, PopulationRowsPutTheMetapopulationLast) {
-  TableChoice choice;
+  // Population rows put the metapopulation last.
+  choice = {};
   choice.rows = RowDimension::Populations;
   choice.yearStep = 25;  // beyond the 2 years: the first and the final year
   choice.variables = {"Det.r"};
   choice.statistic = TableStatistic::MeanAndSE;
   choice.populations = {PopulationChoice::Kind::Population, 1};
   // Managed has no second population, so only Base gives rows.
-  Table table = BuildSummaryTable(Sources(), choice, strings);
+  table = BuildSummaryTable(Sources(), choice, strings);
   EXPECT_EQ(table.corner, "Within Population");
   EXPECT_EQ(table.columns, (std::vector<std::string>{"Year", "Det.r"}));
   ASSERT_EQ(table.rows.size(), 2u);

@@ -55,7 +55,8 @@ TEST_F(YearlyDataTest, EveryBlockYearAndVariableFindsItsField) {
   EXPECT_EQ(data.Value(0, 0, 0), std::nullopt);
 }
 
-TEST_F(YearlyDataTest, NameLineWithinThe31FirstLinesAndShorterUserColumns) {
+TEST_F(YearlyDataTest, LayoutWithinReachAndBrokenFilesFailWithTheReason) {
+  EXPECT_NE(Failure().find("Cannot read"), std::string::npos);  // no file yet
   // The name on line 31, lines without the user variable's columns: loaded,
   // those columns have no value.
   Write(std::string(28, '\n') + DatText("Base", 3, 3, 31).substr(std::string("$ heading\r\n").size()));
@@ -65,10 +66,7 @@ TEST_F(YearlyDataTest, NameLineWithinThe31FirstLinesAndShorterUserColumns) {
   // One line more and the name is out of reach.
   Write(std::string(29, '\n') + DatText("Base", 3, 3, 31).substr(std::string("$ heading\r\n").size()));
   EXPECT_NE(Failure().find("31 lines"), std::string::npos) << Failure();
-}
 
-TEST_F(YearlyDataTest, BrokenFilesFailWithTheReason) {
-  EXPECT_NE(Failure().find("Cannot read"), std::string::npos);
   Write(DatText("Other", 3, 3));
   EXPECT_NE(Failure().find("scenario's name"), std::string::npos);
   // The metapopulation's last year is missing.

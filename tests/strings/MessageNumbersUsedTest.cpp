@@ -6,9 +6,9 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <iterator>
 #include <regex>
 #include <set>
-#include <sstream>
 #include <string>
 
 #include "app/StringTable.h"
@@ -20,9 +20,7 @@ namespace fs = std::filesystem;
 
 std::string ReadAll(const fs::path& path) {
   std::ifstream in(path);
-  std::ostringstream out;
-  out << in.rdbuf();
-  return out.str();
+  return {std::istreambuf_iterator<char>(in), {}};
 }
 
 // The named constants of namespace msg in Messages.h.
@@ -33,9 +31,8 @@ std::map<std::string, int> NamedMessages() {
   const std::string block = header.substr(start, end - start);
   const std::regex constant(R"(constexpr\s+int\s+(k\w+)\s*=\s*(\d+)\s*;)");
   std::map<std::string, int> named;
-  for (std::sregex_iterator it(block.begin(), block.end(), constant), last; it != last; ++it) {
+  for (std::sregex_iterator it(block.begin(), block.end(), constant), last; it != last; ++it)
     named[(*it)[1]] = std::stoi((*it)[2]);
-  }
   return named;
 }
 
@@ -49,28 +46,19 @@ std::map<int, std::string> UsedNumbers(const std::map<std::string, int>& named) 
   const std::regex literalCaption(R"(\bshow\([^;]*?,\s*(\d{1,4})\s*,\s*MsgIcon::)");
   std::map<int, std::string> used;
   for (const auto& value : named) used[value.second] = "src/model/Messages.h";
-  for (const char* root : {"src", "cli", "ui"}) {
-    const fs::path top = fs::path(TAMSIC_SOURCE_DIR) / root;
-    if (!fs::exists(top)) continue;
-    for (const auto& entry : fs::recursive_directory_iterator(top)) {
-      const auto extension = entry.path().extension();
-      if (extension != ".cpp" && extension != ".h") continue;
+  for (const char* root : {"src", "cli"}) {
+    for (const auto& entry : fs::recursive_directory_iterator(fs::path(TAMSIC_SOURCE_DIR) / root)) {
+      if (const auto extension = entry.path().extension(); extension != ".cpp" && extension != ".h") continue;
       const std::string source = ReadAll(entry.path());
       const std::string where = entry.path().lexically_relative(TAMSIC_SOURCE_DIR).string();
       for (std::sregex_iterator it(source.begin(), source.end(), byName), last; it != last; ++it) {
         const auto found = named.find((*it)[1]);
-        if (found == named.end()) {
-          ADD_FAILURE() << where << " uses unknown msg::" << (*it)[1];
-        } else {
-          used.emplace(found->second, where);
-        }
+        if (found == named.end()) ADD_FAILURE() << where << " uses unknown msg::" << (*it)[1];
+        else used.emplace(found->second, where);
       }
-      for (const auto* pattern : {&literal, &literalCaption}) {
-        for (std::sregex_iterator it(source.begin(), source.end(), *pattern), last; it != last;
-             ++it) {
+      for (const auto* pattern : {&literal, &literalCaption})
+        for (std::sregex_iterator it(source.begin(), source.end(), *pattern), last; it != last; ++it)
           used.emplace(std::stoi((*it)[1]), where);
-        }
-      }
     }
   }
   return used;
@@ -81,8 +69,7 @@ TEST(MessageNumbersUsed, ExistInEveryLanguage) {
   ASSERT_TRUE(named.count("kUnableToRunSimulation")) << "the scan of Messages.h found nothing";
   const auto used = UsedNumbers(named);
   StringTable table = StringTable::fromFile(StringTable::locate());
-  for (const Language language :
-       {Language::Portuguese, Language::English, Language::Spanish, Language::German}) {
+  for (const Language language : {Language::Portuguese, Language::English, Language::Spanish, Language::German}) {
     const auto present = table.numbers(language);
     for (const auto& [number, where] : used) {
       EXPECT_TRUE(present.count(number))
