@@ -107,7 +107,7 @@ void CountAlleles(const GenomePool& g, int loci, const std::vector<Individual>& 
                   Tally& ownTally, Count* meta, Tally* metaTally) {
   AddMembers(members, ownTally, metaTally);
   const std::ptrdiff_t toMeta = kMeta ? meta - own : 0;
-  VisitAlleles<Bits>(g, members, loci, own, g.alleleCount(), [toMeta](Count* row, std::uint64_t a) {
+  VisitAlleles<Bits>(g, members, loci, own, g.neutralColumns(), [toMeta](Count* row, std::uint64_t a) {
     ++row[a];
     if constexpr (kMeta) ++row[toMeta + static_cast<std::ptrdiff_t>(a)];
   });
@@ -125,7 +125,7 @@ void CountAlleles(const GenomePool& g, int loci, const std::vector<Individual>& 
 template <int Bits, class Count>
 void Collect(const GenomePool& g, int loci, const std::vector<Individual>& members, Count* counts, Tally& tally) {
   std::uint64_t squares = 0, distinct = 0;
-  VisitAlleles<Bits>(g, members, loci, counts, g.alleleCount(), [&](Count* row, std::uint64_t a) {
+  VisitAlleles<Bits>(g, members, loci, counts, g.neutralColumns(), [&](Count* row, std::uint64_t a) {
     const std::uint64_t c = row[a];
     squares += c * c;
     distinct += c != 0;
@@ -207,7 +207,7 @@ void Sweep(std::uint16_t* counts, std::size_t rows, std::size_t alleles, Tally& 
 template <class Count>
 bool Sweeps(const GenomePool& g, int loci, const PopulationState* first, const PopulationState* last) {
   constexpr std::size_t sweptPerVisit = sizeof(Count) == 2 ? 16 : 2;
-  const std::size_t table = static_cast<std::size_t>(loci) * g.alleleCount();
+  const std::size_t table = static_cast<std::size_t>(loci) * g.neutralColumns();
   std::size_t visits = 0;
   for (const PopulationState* pop = first; pop != last; ++pop)
     visits += 2 * static_cast<std::size_t>(loci) * pop->members.size();
@@ -252,9 +252,9 @@ template <class Count>
 void Settle(const GenomePool& g, const TalliedLoci& loci, const PopulationState* first, const PopulationState* last,
             Count* counts, Tally& tally, Count* into) {
   // Loci left out of the tally are zero before the counts are taken, so they add nothing.
-  std::fill_n(counts, static_cast<std::size_t>(loci.first) * g.alleleCount(), Count{0});
+  std::fill_n(counts, static_cast<std::size_t>(loci.first) * g.neutralColumns(), Count{0});
   if (Sweeps<Count>(g, loci.end, first, last)) {
-    Sweep(counts, static_cast<std::size_t>(loci.end), g.alleleCount(), tally, into);
+    Sweep(counts, static_cast<std::size_t>(loci.end), g.neutralColumns(), tally, into);
     return;
   }
   for (const PopulationState* pop = first; pop != last; ++pop) {

@@ -118,6 +118,9 @@ void GenomePool::reset(const GenomeShape& shape, std::uint64_t seed) {
   layout(false);
   words_.clear();
   freeCount_ = 0;
+  renumberedLoci_ = 0;
+  columns_ = 0;
+  founderAllele_.clear();
 }
 
 void GenomePool::layout(bool wide) {
@@ -202,6 +205,7 @@ std::uint32_t GenomePool::addFounder(std::uint8_t& lethals) {
     for (std::size_t b = 0; b < blocks_; ++b)
       for (std::size_t w = 0; w < kBlockWords; ++w) out[kBlockWords * (2 * b + h) + w] = word;
   }
+  if (renumberedLoci_ > 0) numberNewFounder(slot, first);
   int count = 0;
   std::uint64_t* bits = out + lethalAt_;
   std::fill_n(bits, 2 * lethalWords_, 0);

@@ -99,12 +99,14 @@ class GenomePool {
     for (std::size_t w = 0; w < stride_; w += 8) __builtin_prefetch(&words_[slot * stride_ + w]);
   }
 
-  // Allele of haplotype 0 (maternal) or 1 (paternal) at a locus.
+  // Founder allele of haplotype 0 (maternal) or 1 (paternal) at a locus.
   std::uint32_t allele(std::uint32_t slot, int haplotype, int locus) const {
-    return wide_ ? Lane<32>(genome(slot), haplotype, locus) : Lane<16>(genome(slot), haplotype, locus);
+    const std::uint32_t stored = storedAllele(slot, haplotype, locus);
+    return locus < renumberedLoci_ ? founderAllele_[static_cast<std::size_t>(locus)][stored] : stored;
   }
   // The packed words of a genome; read them with Lane<32> when wide(), Lane<16> otherwise.
-  // Its lethal bits follow the alleles.
+  // The neutral loci hold numbers below neutralColumns(), which stand for
+  // founder alleles in the same order. Its lethal bits follow the alleles.
   const std::uint64_t* genome(std::uint32_t slot) const { return &words_[slot * stride_]; }
   // Words from one genome to the next, for loops over many genomes.
   std::size_t stride() const { return stride_; }
@@ -136,6 +138,15 @@ class GenomePool {
   double kinship(std::uint32_t a, std::uint32_t b) const;
   // Alleles are numbered below this: founder alleles and the kinds drawn from frequencies.
   std::uint32_t alleleCount() const { return std::max(nextAllele_, shape_.drawnAlleles); }
+  // The numbers the genomes hold at the neutral loci are below this.
+  std::uint32_t neutralColumns() const { return renumberedLoci_ > 0 ? columns_ : alleleCount(); }
+  // Numbers each neutral locus' alleles anew, in order, counting only those
+  // the pool's genomes still carry, so that the census' table, a column per
+  // number, narrows as drift loses founder alleles. allele() still gives
+  // the founder allele, and identical alleles stay identical. `living`
+  // names the slots in use when it can (every slot not free is looked at
+  // when it does not hold as many).
+  void renumberNeutral(const std::vector<std::uint32_t>& living);
   const GenomeShape& shape() const { return shape_; }
   // The bytes of a genome of the shape while its alleles fit 16 bits.
   static std::size_t GenomeBytes(const GenomeShape& shape);
@@ -143,6 +154,13 @@ class GenomePool {
   std::size_t bytes() const;
 
  private:
+  std::uint32_t storedAllele(std::uint32_t slot, int haplotype, int locus) const {
+    return wide_ ? Lane<32>(genome(slot), haplotype, locus) : Lane<16>(genome(slot), haplotype, locus);
+  }
+  void numberNewFounder(std::uint32_t slot, std::uint32_t first);
+  std::vector<std::uint32_t> slotsInUse() const;
+  template <int Bits>
+  void renumberNeutral(const std::vector<std::uint32_t>& slots);
   void layout(bool wide);
   void widen();
   std::uint32_t take();
@@ -170,6 +188,9 @@ class GenomePool {
   std::vector<float> inbreedingOf_;  // by the number of identity loci found identical
   std::vector<std::uint32_t> free_;  // slots of the dead in free_[0 .. freeCount_)
   std::size_t freeCount_ = 0;
+  int renumberedLoci_ = 0;  // the neutral loci once renumbered, 0 before
+  std::uint32_t columns_ = 0;  // numbers in use at a renumbered locus
+  std::vector<std::vector<std::uint32_t>> founderAllele_;  // per renumbered locus and number
 };
 
 }  // namespace tamsic::sim

@@ -42,6 +42,24 @@ std::size_t Members(const World& world) {
   return members;
 }
 
+// Drift loses founder alleles, but the tables keep a column for each
+// number the genomes hold. Once the alleles still carried (by the census'
+// counts over its loci) would fill less than half of them, they are
+// numbered anew, where it pays: that takes about two visits of every
+// allele, while a sweep takes a table entry at a fraction of a visit. It
+// pays where the sweeps outweigh the visits, as for many small
+// populations; a single large one keeps its numbers.
+void NarrowTables(const Model& m, World& world, std::uint64_t carried, const TalliedLoci& loci) {
+  const std::size_t columns = world.genomes.neutralColumns();
+  if (2 * carried >= static_cast<std::uint64_t>(loci.count()) * columns) return;
+  const std::size_t tables = static_cast<std::size_t>(m.populations) + (m.populations > 1);
+  if (tables * columns <= 2 * Members(world)) return;
+  std::vector<std::uint32_t> living;
+  for (const PopulationState& pop : world.pops)
+    for (const Individual& ind : pop.members) living.push_back(ind.genome);
+  world.genomes.renumberNeutral(living);
+}
+
 }  // namespace
 
 void TakeCensus(const Model& m, World& world, IterationRecord& record) {
@@ -55,6 +73,7 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
   const auto small = narrow ? MakeTables(m, world.narrowCounts, table) : Tables<std::uint16_t>{};
   const int tallied = m.options.excludeLastPopulation ? m.populations - 1 : m.populations;
   Tally metaTally;
+  std::uint64_t carriedOutsideMeta = 0;  // distinct alleles summed over loci
   int females = 0, males = 0;
   for (int p = 0; p < m.populations; ++p) {
     PopulationState& pop = world.pops[static_cast<std::size_t>(p)];
@@ -79,8 +98,9 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
     pop.geneDiversity = census.geneDiversity;
     if (world.year == 0) pop.initialGeneDiversity = census.geneDiversity;
     if (inMeta) females += pop.counts.females, males += pop.counts.males;
+    else carriedOutsideMeta += tally.distinct;
   }
-  if (m.populations == 1) return;
+  if (m.populations == 1) return NarrowTables(m, world, carriedOutsideMeta, loci);
   const PopulationState* pops = world.pops.data();
   if (sorting) CountBySorting(g, loci, pops, pops + tallied, world.alleleCounts, metaTally);
   else if (narrow) Settle(g, loci, pops, pops + tallied, small.meta, metaTally, static_cast<std::uint16_t*>(nullptr));
@@ -88,6 +108,7 @@ void TakeCensus(const Model& m, World& world, IterationRecord& record) {
   Census& census = record.at(m.populations, world.year);
   metaTally.store(loci.count(), census);
   census.extinct = Extinct(m, census.n, females, males);
+  NarrowTables(m, world, metaTally.distinct + carriedOutsideMeta, loci);
 }
 
 }  // namespace tamsic::sim

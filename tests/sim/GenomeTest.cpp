@@ -123,6 +123,80 @@ TEST(SimGenome, CensusCountsAgreeWithSortedAlleles) {
   }
 }
 
+// Drift loses founder alleles; the neutral loci are then numbered anew so
+// that the census' table narrows. Nothing a reader sees may change: the
+// founder allele behind each number, identity by descent, the census'
+// sums, children's inheritance, later founders, later renumberings and
+// widening the pool.
+TEST(SimGenome, RenumberingNeutralLociKeepsEveryAllele) {
+  GenomeShape shape;
+  shape.neutralLoci = 10;
+  shape.lethalLoci = 13;
+  shape.lethalShare = 0.2;
+  GenomePool pool;
+  pool.reset(shape, 3);
+  Random random(3, 1);
+  std::uint8_t lethals = 0;
+  std::vector<std::uint32_t> founders;
+  for (int k = 0; k < 50; ++k) founders.push_back(pool.addFounder(lethals));
+  std::vector<std::uint32_t> living;
+  for (int k = 0; k < 200; ++k)
+    living.push_back(pool.addChild(founders[random.below(8)], founders[random.below(8)], random).slot);
+  for (std::size_t k = 3; k < founders.size(); ++k) pool.release(founders[k]);
+  living.insert(living.end(), founders.begin(), founders.begin() + 3);
+  const auto alleles = [&] {
+    std::vector<std::uint32_t> all;
+    for (std::uint32_t slot : living)
+      for (int l = 0; l < shape.loci(); ++l)
+        for (int h = 0; h < 2; ++h) all.push_back(pool.allele(slot, h, l));
+    for (std::size_t k = 0; k + 1 < living.size(); k += 7)
+      all.push_back(static_cast<std::uint32_t>(256 * pool.kinship(living[k], living[k + 1])));
+    return all;
+  };
+  const auto census = [&] {
+    PopulationState pop;
+    for (std::uint32_t slot : living) pop.members.push_back(Individual{.genome = slot});
+    const TalliedLoci loci{0, shape.neutralLoci};
+    std::vector<std::uint16_t> counts(static_cast<std::size_t>(loci.end) * pool.neutralColumns());
+    std::vector<std::uint32_t> room;
+    Tally byTable, bySorting;
+    CountByTable(pool, loci, pop, counts.data(), byTable, static_cast<std::uint16_t*>(nullptr), nullptr);
+    CountBySorting(pool, loci, &pop, &pop + 1, room, bySorting);
+    EXPECT_EQ(byTable.squares, bySorting.squares);
+    EXPECT_EQ(byTable.distinct, bySorting.distinct);
+    return std::pair{byTable.squares, byTable.distinct};
+  };
+  const auto before = alleles();
+  const auto counted = census();
+  pool.renumberNeutral({});  // found from the free slots
+  EXPECT_LE(pool.neutralColumns(), 22u);  // eight founders' alleles and three kept founders'
+  EXPECT_EQ(pool.alleleCount(), 100u);
+  EXPECT_EQ(alleles(), before);
+  EXPECT_EQ(census(), counted);
+
+  // A later founder takes new numbers above the rest; its children inherit them.
+  const std::uint32_t late = pool.addFounder(lethals);
+  EXPECT_EQ(pool.allele(late, 1, 0), 101u);
+  EXPECT_EQ(pool.allele(late, 0, 40), 100u);
+  const Newborn child = pool.addChild(late, living[0], random);
+  for (int l = 0; l < shape.neutralLoci; ++l) {
+    EXPECT_EQ(pool.allele(child.slot, 0, l) & ~1u, 100u);
+    const std::uint32_t paternal = pool.allele(child.slot, 1, l);
+    EXPECT_TRUE(paternal == pool.allele(living[0], 0, l) || paternal == pool.allele(living[0], 1, l));
+  }
+  living.push_back(late);
+  living.push_back(child.slot);
+  // Widening after renumbering, then renumbering again over the old numbers.
+  for (int k = 0; k < 33000; ++k) pool.release(pool.addFounder(lethals));
+  ASSERT_TRUE(pool.wide());
+  const auto widened = alleles();
+  const auto widenedCounts = census();
+  pool.renumberNeutral(living);  // every slot in use, as the census gives them
+  EXPECT_LE(pool.neutralColumns(), 24u);
+  EXPECT_EQ(alleles(), widened);
+  EXPECT_EQ(census(), widenedCounts);
+}
+
 }  // namespace
 }  // namespace tamsic::sim
 
