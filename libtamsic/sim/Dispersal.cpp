@@ -46,6 +46,31 @@ double SurvivalOfMove(const Model& m, SimContext& context) {
   return std::clamp(m.dispersalSurvival.value(context), 0.0, 100.0) / 100.0;
 }
 
+// Whether an individual is of a dispersing sex and age cannot be predicted
+// from one to the next: the list is written without a branch on it.
+void ListWhoMayDisperse(const Model& m, const std::vector<Individual>& members, std::vector<std::uint32_t>& out) {
+  out.resize(members.size());
+  std::size_t count = 0;
+  for (std::uint32_t i = 0; i < members.size(); ++i) {
+    const Individual& ind = members[i];
+    out[count] = i;
+    count += m.dispersing[ind.sex] & (ind.age >= m.dispersalYoung) & (ind.age <= m.dispersalOld);
+  }
+  out.resize(count);
+}
+
+// Closes the gaps the leavers (by index, in order) leave among the members.
+void RemoveLeaving(const std::vector<std::uint32_t>& leaving, std::vector<Individual>& members) {
+  if (leaving.empty()) return;
+  auto kept = members.begin() + leaving.front();
+  for (std::size_t k = 0; k < leaving.size(); ++k) {
+    const auto from = members.begin() + leaving[k] + 1;
+    const auto to = k + 1 < leaving.size() ? members.begin() + leaving[k + 1] : members.end();
+    kept = std::copy(from, to, kept);
+  }
+  members.erase(kept, members.end());
+}
+
 }  // namespace
 
 void Disperse(const Model& m, World& world, SimContext& context) {
@@ -65,30 +90,27 @@ void Disperse(const Model& m, World& world, SimContext& context) {
       if (cumulative.back() <= 0.0) continue;
       survival = SurvivalOfMove(m, context);
     }
-    std::size_t kept = 0;
+    ListWhoMayDisperse(m, pop.members, world.mayDisperse);
+    std::vector<std::uint32_t>& leaving = world.leaving;
+    leaving.clear();
     LocalStream random(world.random);
-    for (std::size_t i = 0; i < pop.members.size(); ++i) {
+    for (std::uint32_t i : world.mayDisperse) {
       const Individual& ind = pop.members[i];
-      const bool eligible = m.dispersing[ind.sex] && ind.age >= m.dispersalYoung && ind.age <= m.dispersalOld;
-      if (eligible && each) {
+      if (each) {
         context.setIndividual(&ind);
         survival = random.lend([&] {
           Destinations(m, world, p, context, cumulative);
           return SurvivalOfMove(m, context);
         });
       }
-      if (eligible) {
-        const double u = random.uniform();
-        const auto to = std::upper_bound(cumulative.begin(), cumulative.end(), u) - cumulative.begin();
-        if (to < m.populations) {
-          if (random.chance(survival)) arrivals[static_cast<std::size_t>(to)].push_back(ind);
-          else world.genomes.release(ind.genome);
-          continue;
-        }
-      }
-      pop.members[kept++] = ind;
+      const double u = random.uniform();
+      const auto to = std::upper_bound(cumulative.begin(), cumulative.end(), u) - cumulative.begin();
+      if (to == m.populations) continue;
+      if (random.chance(survival)) arrivals[static_cast<std::size_t>(to)].push_back(ind);
+      else world.genomes.release(ind.genome);
+      leaving.push_back(i);
     }
-    pop.members.resize(kept);
+    RemoveLeaving(leaving, pop.members);
     context.setIndividual(nullptr);
   }
   for (int q = 0; q < m.populations; ++q) {

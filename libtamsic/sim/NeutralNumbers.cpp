@@ -4,6 +4,7 @@
 // narrow as the alleles present. The numbers keep the founder alleles'
 // order, so anything sorted by allele comes out the same.
 #include <algorithm>
+#include <numeric>
 
 #include "sim/Genome.h"
 
@@ -63,7 +64,7 @@ void GenomePool::renumberNeutral(const std::vector<std::uint32_t>& slots) {
   std::vector<std::uint32_t> identity;  // the founder allele of each number before the first renumbering
   if (renumberedLoci_ == 0) {
     identity.resize(columns);
-    for (std::uint32_t number = 0; number < columns; ++number) identity[number] = number;
+    std::iota(identity.begin(), identity.end(), 0u);
   }
   for (int l = 0; l < loci; ++l) {
     std::vector<std::uint32_t>& founders = founderAllele[static_cast<std::size_t>(l)];
@@ -72,7 +73,7 @@ void GenomePool::renumberNeutral(const std::vector<std::uint32_t>& slots) {
     std::uint32_t* row = &renumbered[l * columns];
     // Whether a number is carried cannot be predicted: every number is
     // written, and the next one is taken only where it is.
-    founders.resize(columns + 1);
+    founders.resize(columns);
     std::uint32_t next = 0;
     for (std::size_t number = 0; number < columns; ++number) {
       const std::uint32_t carried = row[number];

@@ -71,6 +71,8 @@ struct World {
   std::vector<Individual> moving;
   std::vector<std::vector<Individual>> arrivals;  // dispersers by recipient
   std::vector<double> destinations;              // cumulative chances of a disperser's recipients
+  std::vector<std::uint32_t> mayDisperse;         // members of the dispersing sexes and ages, by index
+  std::vector<std::uint32_t> leaving;             // members who left, by index
   std::vector<double> nextStates;                // state values being worked out
   std::vector<double> stateColumn;               // ... and one variable of them for a batch
   std::vector<std::uint32_t> alleleCounts;       // the census' counts of alleles, or its room to sort them
