@@ -149,8 +149,10 @@ std::size_t GenomePool::GenomeBytes(const GenomeShape& shape) {
 }
 
 std::size_t GenomePool::bytes() const {
-  return words_.capacity() * sizeof(std::uint64_t) + free_.capacity() * sizeof(std::uint32_t) +
-         (draws_.capacity() + ibdLanes_.capacity()) * sizeof(std::uint64_t) + inbreedingOf_.capacity() * sizeof(float);
+  std::size_t numbers = 0;
+  for (const std::vector<std::uint32_t>& founders : founderAllele_) numbers += founders.capacity();
+  return (words_.capacity() + draws_.capacity() + ibdLanes_.capacity()) * sizeof(std::uint64_t) +
+         (free_.capacity() + numbers) * sizeof(std::uint32_t) + inbreedingOf_.capacity() * sizeof(float);
 }
 
 void GenomePool::reserve(const GenomeShape& shape, std::size_t genomes) {

@@ -14,6 +14,15 @@
 namespace tamsic::sim {
 namespace {
 
+// A pool of the shape started afresh with `count` founders.
+std::vector<std::uint32_t> Founders(GenomePool& pool, const GenomeShape& shape, std::uint64_t seed, int count) {
+  pool.reset(shape, seed);
+  std::uint8_t lethals = 0;
+  std::vector<std::uint32_t> founders;
+  for (int k = 0; k < count; ++k) founders.push_back(pool.addFounder(lethals));
+  return founders;
+}
+
 TEST(SimGenome, WideningKeepsEveryAlleleAndItsIdentity) {
   GenomeShape shape;
   shape.ibdLoci = 70;  // not a whole number of words
@@ -77,11 +86,9 @@ TEST(SimGenome, CensusCountsAgreeWithSortedAlleles) {
     GenomeShape shape;
     shape.neutralLoci = 13;
     GenomePool pool;
-    pool.reset(shape, 5);
     Random random(5, 1);
     std::uint8_t lethals = 0;
-    std::vector<std::uint32_t> founders;
-    for (int k = 0; k < 30; ++k) founders.push_back(pool.addFounder(lethals));
+    const std::vector<std::uint32_t> founders = Founders(pool, shape, 5, 30);
     // Founder alleles beyond 16 bits, none of them carried by anyone: a sparse table.
     for (int k = 0; wide && k < 33000; ++k) pool.release(pool.addFounder(lethals));
     ASSERT_EQ(pool.wide(), wide);
@@ -134,11 +141,9 @@ TEST(SimGenome, RenumberingNeutralLociKeepsEveryAllele) {
   shape.lethalLoci = 13;
   shape.lethalShare = 0.2;
   GenomePool pool;
-  pool.reset(shape, 3);
   Random random(3, 1);
   std::uint8_t lethals = 0;
-  std::vector<std::uint32_t> founders;
-  for (int k = 0; k < 50; ++k) founders.push_back(pool.addFounder(lethals));
+  const std::vector<std::uint32_t> founders = Founders(pool, shape, 3, 50);
   std::vector<std::uint32_t> living;
   for (int k = 0; k < 200; ++k)
     living.push_back(pool.addChild(founders[random.below(8)], founders[random.below(8)], random).slot);
