@@ -7,6 +7,9 @@
 #include <cstddef>
 #include <cstring>
 #include <new>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace tamsic::sim {
 
@@ -78,7 +81,38 @@ int Popcount(std::uint64_t x) {
   return static_cast<int>((x * 0x0101010101010101ULL) >> 56);
 }
 
-int CountTrailingZeros(std::uint64_t x) { return Popcount((x & -x) - 1); }
+// A bit per lane of a comparison's result, set where the lanes were equal.
+template <int Bits>
+std::uint64_t LaneBits(typename Block<Bits>::Same equal) {
+#ifdef __SSE2__
+  __m128i v;
+  std::memcpy(&v, &equal, sizeof v);
+  if constexpr (Bits == 16) return static_cast<std::uint64_t>(_mm_movemask_epi8(_mm_packs_epi16(v, v)) & 0xff);
+  else return static_cast<std::uint64_t>(_mm_movemask_ps(_mm_castsi128_ps(v)));
+#else
+  std::uint64_t bits = 0;
+  for (int k = 0; k < kLanes<Bits>; ++k) bits |= static_cast<std::uint64_t>(equal[k] & 1) << k;
+  return bits;
+#endif
+}
+
+// Bit j set where locus first + j (j < count <= 64) holds the same allele
+// on both haplotypes of a genome, found a block at a time.
+template <int Bits>
+std::uint64_t AlikeLoci(const std::uint64_t* genome, int first, int count) {
+  using Lanes = typename Block<Bits>::Lanes;
+  using Same = typename Block<Bits>::Same;
+  constexpr int lanes = kLanes<Bits>;
+  std::uint64_t alike = 0;
+  for (int b = first / lanes; b * lanes < first + count; ++b) {
+    const std::size_t at = 2 * static_cast<std::size_t>(b) * kBlockWords;
+    const Same same = Load<Lanes>(genome + at) == Load<Lanes>(genome + at + kBlockWords);
+    const std::uint64_t bits = LaneBits<Bits>(same);
+    const int shift = b * lanes - first;
+    alike |= shift >= 0 ? bits << shift : bits >> -shift;
+  }
+  return alike;
+}
 
 template <int Bits>
 constexpr std::uint64_t Repeat(std::uint64_t lane) {
@@ -208,14 +242,19 @@ std::uint32_t GenomePool::addFounder(std::uint8_t& lethals) {
       for (std::size_t w = 0; w < kBlockWords; ++w) out[kBlockWords * (2 * b + h) + w] = word;
   }
   if (renumberedLoci_ > 0) numberNewFounder(slot, first);
+  // Each word of lethal bits is gathered in a register: setting bits in
+  // place would make every hash wait on the last one's write.
   int count = 0;
   std::uint64_t* bits = out + lethalAt_;
-  std::fill_n(bits, 2 * lethalWords_, 0);
   for (std::size_t h = 0; h < 2; ++h)
-    for (int j = 0; j < shape_.lethalLoci; ++j) {
-      const bool is = lethal(first + static_cast<std::uint32_t>(h), shape_.lethalFirst() + j);
-      bits[h * lethalWords_ + static_cast<std::size_t>(j / 64)] |= static_cast<std::uint64_t>(is) << (j % 64);
-      count += is;
+    for (std::size_t w = 0; w < lethalWords_; ++w) {
+      const int firstLocus = shape_.lethalFirst() + 64 * static_cast<int>(w);
+      const int loci = std::min(64, shape_.lethalLoci - 64 * static_cast<int>(w));
+      std::uint64_t word = 0;
+      for (int j = 0; j < loci; ++j)
+        word |= static_cast<std::uint64_t>(lethal(first + static_cast<std::uint32_t>(h), firstLocus + j)) << j;
+      bits[h * lethalWords_ + w] = word;
+      count += Popcount(word);
     }
   lethals = static_cast<std::uint8_t>(std::min(count, 255));
   return slot;
@@ -300,10 +339,10 @@ LethalsPassed GenomePool::passLethals(const std::uint64_t* mother, const std::ui
     out[lethalAt_ + w] = maternal;
     out[lethalAt_ + lethalWords_ + w] = paternal;
     lethals += Popcount(maternal) + Popcount(paternal);
-    for (std::uint64_t both = maternal & paternal; both != 0; both &= both - 1) {
-      const int locus = static_cast<int>(first) + CountTrailingZeros(both);
-      if (Lane<Bits>(out, 0, locus) == Lane<Bits>(out, 1, locus)) viable = false;
-    }
+    // Whether both haplotypes carry a lethal cannot be predicted: the
+    // alleles of all the word's loci are compared instead.
+    const int loci = std::min(64, shape_.lethalLoci - 64 * static_cast<int>(w));
+    viable &= (maternal & paternal & AlikeLoci<Bits>(out, static_cast<int>(first), loci)) == 0;
   }
   return {static_cast<std::uint8_t>(std::min(lethals, 255)), viable};
 }

@@ -169,9 +169,11 @@ class GenomePool {
   Newborn child(std::uint32_t dam, std::uint32_t sire, Random& random);
   template <int Bits>
   int sharedAlleles(std::uint32_t a, std::uint32_t b) const;
+  // Inlined: a call for every birth with a lethal locus costs more than the work.
   template <int Bits>
-  LethalsPassed passLethals(const std::uint64_t* mother, const std::uint64_t* father, std::uint64_t* out,
-                            const std::uint64_t* draws, std::size_t drawCount) const;
+  [[gnu::always_inline]] inline LethalsPassed passLethals(const std::uint64_t* mother, const std::uint64_t* father,
+                                                         std::uint64_t* out, const std::uint64_t* draws,
+                                                         std::size_t drawCount) const;
 
   GenomeShape shape_;
   bool wide_ = false;

@@ -75,6 +75,41 @@ TEST(SimGenome, WideningKeepsEveryAlleleAndItsIdentity) {
   EXPECT_EQ(maternal, (std::set<std::uint32_t>{79998u, 79999u}));
 }
 
+// With every founder allele lethal, a newborn lives exactly when no lethal
+// locus holds the same allele twice: wherever the lethal loci start within
+// a block, in one word of lethal bits or two, in narrow and wide pools.
+TEST(SimGenome, NewbornsDieOfALethalAlleleHeldTwice) {
+  for (int lethalLoci : {13, 70})
+    for (bool wide : {false, true}) {
+      GenomeShape shape;
+      shape.ibdFirst = 3;
+      shape.neutralLoci = 3;
+      shape.ibdLoci = 70;
+      shape.lethalLoci = lethalLoci;
+      shape.lethalShare = 1.0;
+      GenomePool pool;
+      std::vector<std::uint32_t> family = Founders(pool, shape, 5, 4);
+      std::uint8_t lethals = 0;
+      for (int k = 0; wide && k < 33000; ++k) pool.release(pool.addFounder(lethals));
+      ASSERT_EQ(pool.wide(), wide);
+      Random random(5, 2);
+      int lived = 0, died = 0;
+      for (int k = 0; k < 300; ++k) {
+        const auto parent = [&] { return family[random.below(static_cast<std::uint32_t>(family.size()))]; };
+        const std::uint32_t dam = parent();
+        const Newborn child = pool.addChild(dam, parent(), random);
+        bool twice = false;
+        for (int l = shape.lethalFirst(); l < shape.loci(); ++l)
+          twice |= pool.allele(child.slot, 0, l) == pool.allele(child.slot, 1, l);
+        EXPECT_EQ(child.viable, !twice) << lethalLoci << wide << k;
+        ++(child.viable ? lived : died);
+        family.push_back(child.slot);
+      }
+      EXPECT_GT(lived, 0) << lethalLoci << wide;
+      EXPECT_GT(died, 0) << lethalLoci << wide;
+    }
+}
+
 // The census counts alleles into a table a word of loci at a time, summing
 // the metapopulation's counts alongside, and takes the sums by sweeping the
 // table or by visiting the alleles again; sorting each locus' alleles is the
