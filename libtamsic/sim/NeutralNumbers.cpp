@@ -36,10 +36,13 @@ void RewriteAlleles(std::uint64_t* genome, int loci, Renumber renumber) {
 void GenomePool::renumberNeutral(const std::vector<std::uint32_t>& living) {
   // Kinds drawn from frequencies are few already, and are what users see.
   if (shape_.drawnAlleles > 0 || words_.empty()) return;
+  const auto renumber = [this](const std::vector<std::uint32_t>& slots) {
+    if (wide_) renumberNeutral<32>(slots);
+    else renumberNeutral<16>(slots);
+  };
   const std::size_t inUse = words_.size() / stride_ - freeCount_;
-  const std::vector<std::uint32_t> slots = living.size() == inUse ? living : slotsInUse();
-  if (wide_) renumberNeutral<32>(slots);
-  else renumberNeutral<16>(slots);
+  if (living.size() == inUse) renumber(living);
+  else renumber(slotsInUse());
 }
 
 std::vector<std::uint32_t> GenomePool::slotsInUse() const {
